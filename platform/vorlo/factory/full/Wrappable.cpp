@@ -1,0 +1,9 @@
+#include <vorlo/factory/full/Wrappable.hpp>
+
+#include <vorlo/factory/basic/BindingRegistry.hpp>
+
+namespace vorlo::factory::full {
+
+Wrappable::~Wrappable() { basic::BindingRegistry::instance().retract(this); }
+
+}  // namespace vorlo::factory::full

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace vorlo::factory::full {
+
+/// Base of every native object that a host object may stand for. When the
+/// native object goes, its binding to a host object goes with it.
+class Wrappable {
+ public:
+  Wrappable() = default;
+  Wrappable(const Wrappable&) = delete;
+  Wrappable& operator=(const Wrappable&) = delete;
+  /// Withdraws the object from the BindingRegistry.
+  virtual ~Wrappable();
+};
+
+}  // namespace vorlo::factory::full

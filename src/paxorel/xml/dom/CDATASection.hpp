@@ -1,0 +1,16 @@
+#pragma once
+
+#include <paxorel/xml/dom/Text.hpp>
+
+namespace paxorel::xml {
+
+/// A CDATA section.
+class CDATASection : public Text {
+ public:
+  /// A wrapper of `impl` (not owned) that keeps `owner` alive.
+  CDATASection(xercesc::DOMCDATASection* impl, std::shared_ptr<Document> owner);
+
+  const char* getFullyQualifiedVorloTypeName() const override;
+};
+
+}  // namespace paxorel::xml

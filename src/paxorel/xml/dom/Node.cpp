@@ -1,0 +1,216 @@
+#include <paxorel/xml/dom/Node.hpp>
+
+#include <paxorel/xml/core/Conversions.hpp>
+#include <paxorel/xml/core/XercesString.hpp>
+#include <paxorel/xml/core/raiseXmlError.hpp>
+#include <paxorel/xml/dom/Attr.hpp>
+#include <paxorel/xml/dom/CDATASection.hpp>
+#include <paxorel/xml/dom/Comment.hpp>
+#include <paxorel/xml/dom/Document.hpp>
+#include <paxorel/xml/dom/DocumentFragment.hpp>
+#include <paxorel/xml/dom/DocumentRegistry.hpp>
+#include <paxorel/xml/dom/DocumentType.hpp>
+#include <paxorel/xml/dom/Element.hpp>
+#include <paxorel/xml/dom/Entity.hpp>
+#include <paxorel/xml/dom/EntityReference.hpp>
+#include <paxorel/xml/dom/NamedNodeMap.hpp>
+#include <paxorel/xml/dom/NodeList.hpp>
+#include <paxorel/xml/dom/Notation.hpp>
+#include <paxorel/xml/dom/ProcessingInstruction.hpp>
+#include <paxorel/xml/dom/Text.hpp>
+
+#include <xercesc/dom/DOM.hpp>
+
+#include <map>
+
+namespace paxorel::xml {
+
+using xercesc::DOMNode;
+
+Node::Node(DOMNode* impl, std::shared_ptr<Document> owner) : impl_(impl), owner_(std::move(owner)) {}
+
+Node::~Node() { impl_ = nullptr; }
+
+const char* Node::getFullyQualifiedVorloTypeName() const { return "zelmar.io.xml.dom.Node"; }
+
+DOMNode* Node::impl() const {
+  if (!impl_) raiseXmlError(*this, xml_error::emptyNodeArgument());
+  return impl_;
+}
+
+DOMNode* Node::implOf(const XMLObject& caller, const Node* argument) {
+  if (!argument || !argument->impl_) raiseXmlError(caller, xml_error::emptyNodeArgument());
+  return argument->impl_;
+}
+
+// --- ownership ---
+
+std::shared_ptr<Document> Node::getOwnerDocWrapper() const { return owner_; }
+
+void Node::setOwnerDocWrapper(Document* document) {
+  if (!document) raiseXmlError(*this, xml_error::emptyNodeArgument());
+  owner_ = document->getOwnerDocWrapper();
+}
+
+Document* Node::getOwnerDocument() const {
+  const std::shared_ptr<Document> owner = getOwnerDocWrapper();
+  if (!owner) return nullptr;
+  DocumentRegistry::getInstance()->registerDocument(owner);  // keeps an existing entry
+  return owner.get();
+}
+
+Node* Node::makeNodeWrapper(DOMNode* node) const {
+  return node ? new Node(node, getOwnerDocWrapper()) : nullptr;
+}
+
+Node* Node::downcast(DOMNode* node, const std::shared_ptr<Document>& owner) {
+  if (!node) return nullptr;
+  switch (node->getNodeType()) {
+    case DOMNode::ELEMENT_NODE: return new Element(static_cast<xercesc::DOMElement*>(node), owner);
+    case DOMNode::ATTRIBUTE_NODE: return new Attr(static_cast<xercesc::DOMAttr*>(node), owner);
+    case DOMNode::TEXT_NODE: return new Text(static_cast<xercesc::DOMText*>(node), owner);
+    case DOMNode::CDATA_SECTION_NODE: return new CDATASection(static_cast<xercesc::DOMCDATASection*>(node), owner);
+    case DOMNode::ENTITY_REFERENCE_NODE:
+      return new EntityReference(static_cast<xercesc::DOMEntityReference*>(node), owner);
+    case DOMNode::ENTITY_NODE: return new Entity(static_cast<xercesc::DOMEntity*>(node), owner);
+    case DOMNode::PROCESSING_INSTRUCTION_NODE:
+      return new ProcessingInstruction(static_cast<xercesc::DOMProcessingInstruction*>(node), owner);
+    case DOMNode::COMMENT_NODE: return new Comment(static_cast<xercesc::DOMComment*>(node), owner);
+    case DOMNode::DOCUMENT_NODE: return owner.get();  // the existing wrapper, not the caller's
+    case DOMNode::DOCUMENT_TYPE_NODE: return new DocumentType(static_cast<xercesc::DOMDocumentType*>(node), owner);
+    case DOMNode::DOCUMENT_FRAGMENT_NODE:
+      return new DocumentFragment(static_cast<xercesc::DOMDocumentFragment*>(node), owner);
+    case DOMNode::NOTATION_NODE: return new Notation(static_cast<xercesc::DOMNotation*>(node), owner);
+    default: return new Node(node, owner);
+  }
+}
+
+// --- queries ---
+
+ustring Node::getNodeName() const { return XercesString::toUstring(impl()->getNodeName()); }
+ustring Node::getNodeValue() const { return XercesString::toUstring(impl()->getNodeValue()); }
+ustring Node::getLocalName() const { return XercesString::toUstring(impl()->getLocalName()); }
+ustring Node::getNamespaceURI() const { return XercesString::toUstring(impl()->getNamespaceURI()); }
+ustring Node::getPrefix() const { return XercesString::toUstring(impl()->getPrefix()); }
+ustring Node::getBaseURI() const { return XercesString::toUstring(impl()->getBaseURI()); }
+ustring Node::getTextContent() const { return XercesString::toUstring(impl()->getTextContent()); }
+
+double Node::getNodeType() const { return impl()->getNodeType(); }
+bool Node::hasChildNodes() const { return impl()->hasChildNodes(); }
+bool Node::hasAttributes() const { return impl()->hasAttributes(); }
+
+double Node::getLength() {
+  if (!childList_) childList_ = impl()->getChildNodes();
+  return toDouble(childList_->getLength());
+}
+
+ustring Node::getNodeTypeName() const {
+  switch (static_cast<int>(getNodeType())) {
+    case 1: return u"ELEMENT_NODE";
+    case 2: return u"ATTRIBUTE_NODE";
+    case 3: return u"TEXT_NODE";
+    case 4: return u"CDATA_SECTION_NODE";
+    case 5: return u"ENTITY_REFERENCE_NODE";
+    case 6: return u"ENTITY_NODE";
+    case 8: return u"COMMENT_NODE";
+    case 9: return u"DOCUMENT_NODE";
+    case 10: return u"DOCUMENT_TYPE_NODE";
+    case 11: return u"DOCUMENT_FRAGMENT_NODE";
+    case 12: return u"NOTATION";  // sic: the one name without "_NODE"
+    default: return u"UNKNOWN";  // processing instructions included
+  }
+}
+
+ustring Node::getPositionTypeName(double position) const {
+  switch (truncateS(position)) {
+    case 1: return u"DOCUMENT_POSITION_DISCONNECTED";
+    case 2: return u"DOCUMENT_POSITION_PRECEDING";
+    case 4: return u"DOCUMENT_POSITION_FOLLOWING";
+    case 8: return u"DOCUMENT_POSITION_CONTAINS";
+    case 16: return u"DOCUMENT_POSITION_CONTAINED_BY";
+    default: return u"UNKNOWN";
+  }
+}
+
+ustring Node::lookupPrefix(const ustring& namespaceURI) const {
+  return XercesString::toUstring(impl()->lookupPrefix(XercesString(namespaceURI)));
+}
+
+ustring Node::lookupNamespaceURI(const ustring& prefix) const {
+  return XercesString::toUstring(impl()->lookupNamespaceURI(XercesString(prefix)));
+}
+
+bool Node::isDefaultNamespace(const ustring& namespaceURI) const {
+  return impl()->isDefaultNamespace(XercesString(namespaceURI));
+}
+
+// --- comparisons ---
+
+bool Node::isSameNode(const Node* other) const {
+  const DOMNode* node = implOf(*this, other);
+  return impl()->isSameNode(node);
+}
+
+bool Node::isEqualNode(const Node* other) const {
+  const DOMNode* node = implOf(*this, other);
+  return impl()->isEqualNode(node);
+}
+
+double Node::compareDocumentPosition(const Node* other) const {
+  const DOMNode* node = implOf(*this, other);
+  return static_cast<std::int16_t>(impl()->compareDocumentPosition(node));
+}
+
+ustring Node::comparePositionInDocument(const Node* other) const {
+  static const std::map<double, ustring> names = {
+      {DOCUMENT_POSITION_DISCONNECTED, u"Disconnected"}, {DOCUMENT_POSITION_PRECEDING, u"Preceding"},
+      {DOCUMENT_POSITION_FOLLOWING, u"Following"},       {DOCUMENT_POSITION_CONTAINS, u"Contains"},
+      {DOCUMENT_POSITION_CONTAINED_BY, u"ContainedBy"},
+  };
+  static const ustring unknown = u"Unknown";  // also for sums of bits, and 0 for the node itself
+  const auto name = names.find(compareDocumentPosition(other));
+  return name == names.end() ? unknown : name->second;
+}
+
+// --- navigation ---
+
+Node* Node::getFirstChild() const { return downcast(impl()->getFirstChild(), getOwnerDocWrapper()); }
+Node* Node::getLastChild() const { return downcast(impl()->getLastChild(), getOwnerDocWrapper()); }
+Node* Node::getNextSibling() const { return downcast(impl()->getNextSibling(), getOwnerDocWrapper()); }
+Node* Node::getPreviousSibling() const { return downcast(impl()->getPreviousSibling(), getOwnerDocWrapper()); }
+
+Node* Node::getParentNode() const {
+  if (impl()->getNodeType() == DOMNode::DOCUMENT_NODE) return nullptr;
+  return downcast(impl()->getParentNode(), getOwnerDocWrapper());
+}
+
+Node* Node::item(double index) {
+  if (!childList_) childList_ = impl()->getChildNodes();
+  return downcast(childList_->item(conversionS(index)), getOwnerDocWrapper());
+}
+
+Node* Node::child(double index) { return item(index - 1.0); }
+
+std::vector<Node*> Node::getChildren() const {
+  const xercesc::DOMNodeList* children = impl()->getChildNodes();
+  std::vector<std::unique_ptr<Node>> made;  // freed again should a later step fail
+  for (XMLSize_t i = 0; i < children->getLength(); ++i) {
+    made.emplace_back(downcast(children->item(i), getOwnerDocWrapper()));
+  }
+  std::vector<Node*> result;
+  result.reserve(made.size());
+  for (auto& wrapper : made) result.push_back(wrapper.release());
+  return result;
+}
+
+NodeList* Node::getChildNodes() const {
+  xercesc::DOMNodeList* list = impl()->getChildNodes();
+  return list ? new NodeList(list, getOwnerDocWrapper()) : nullptr;
+}
+
+NamedNodeMap* Node::getAttributes() const {
+  xercesc::DOMNamedNodeMap* map = impl()->getAttributes();
+  return map ? new NamedNodeMap(map, getOwnerDocWrapper()) : nullptr;
+}
+
+}  // namespace paxorel::xml
