@@ -50,7 +50,7 @@ int main(int argc, char** argv) {
 
     std::map<std::string, int> byType;
     count(*document, byType);
-    std::cout << "Nodes by type:\n";
+    std::cout << "Nodes by type (a processing instruction is named UNKNOWN):\n";
     for (const auto& [type, n] : byType) std::cout << "  " << type << ": " << n << "\n";
 
     const std::unique_ptr<Node> root(document->getLastChild());

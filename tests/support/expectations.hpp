@@ -15,9 +15,9 @@ using basis::i18n::MsgArg;
 
 /// Checks that `action` fails by the host way with "paxorel:xml_error:<key>"
 /// and exactly the arguments `args`.
-template <class Action>
-void expectXmlError(Action&& action, const std::string& key, const std::vector<MsgArg>& args, const char* file,
-                    int line) {
+template <class Action, class... Args>
+void expectXmlError(Action&& action, const char* file, int line, const std::string& key, const Args&... expected) {
+  const std::vector<MsgArg> args{MsgArg(expected)...};
   const std::string where = std::string(file) + ":" + std::to_string(line);
   try {
     action();
@@ -33,6 +33,5 @@ void expectXmlError(Action&& action, const std::string& key, const std::vector<M
 
 /// EXPECT_XML_ERROR(statement, "key", args...): the statement fails with that
 /// identifier and those arguments.
-#define EXPECT_XML_ERROR(statement, key, ...)                                                      \
-  ::testing_support::expectXmlError([&] { statement; }, key,                                      \
-                                    std::vector<::basis::i18n::MsgArg>{__VA_ARGS__}, __FILE__, __LINE__)
+#define EXPECT_XML_ERROR(statement, ...) \
+  ::testing_support::expectXmlError([&] { statement; }, __FILE__, __LINE__, __VA_ARGS__)
