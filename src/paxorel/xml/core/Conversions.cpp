@@ -34,7 +34,7 @@ XMLSize_t conversionU(double value) noexcept {
 
 std::string formatOffset(double offset) {
   char text[400];  // the longest "%f" of a double is 317 characters
-  std::snprintf(text, sizeof text, "%f", offset);
+  (void)std::snprintf(text, sizeof text, "%f", offset);
   return text;
 }
 

@@ -18,8 +18,6 @@ void startXerces() {
 
 XercesGuard::XercesGuard() { startXerces(); }
 
-XercesGuard::~XercesGuard() = default;
-
 xercesc::DOMImplementation* lsImplementation() {
   startXerces();
   static const XMLCh ls[] = u"LS";

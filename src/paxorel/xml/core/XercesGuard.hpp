@@ -13,7 +13,7 @@ namespace paxorel::xml {
 class XercesGuard {
  public:
   XercesGuard();
-  ~XercesGuard();
+  ~XercesGuard() = default;
   XercesGuard(const XercesGuard&) = delete;
   XercesGuard& operator=(const XercesGuard&) = delete;
 };

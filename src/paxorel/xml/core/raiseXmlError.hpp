@@ -20,7 +20,7 @@ template <class Error>
   basis::except::Exception<Error> exception(error);
   exception.setErrorId(basis::except::IMsgIDException::get_error_id(error));
   hostRaiseError(exception);
-  throw exception;
+  throw basis::except::Exception<Error>(exception);
 }
 
 /// The one way in which the library reports a failure of an operation of
