@@ -12,6 +12,7 @@
 #include <paxorel/xml/dom/CharacterData.hpp>
 #include <paxorel/xml/dom/Comment.hpp>
 #include <paxorel/xml/dom/Document.hpp>
+#include <paxorel/xml/dom/DocumentConfiguration.hpp>
 #include <paxorel/xml/dom/DocumentFragment.hpp>
 #include <paxorel/xml/dom/DocumentRegistry.hpp>
 #include <paxorel/xml/dom/DocumentType.hpp>

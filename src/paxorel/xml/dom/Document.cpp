@@ -1,11 +1,35 @@
 #include <paxorel/xml/dom/Document.hpp>
 
+#include <paxorel/xml/core/XercesString.hpp>
+#include <paxorel/xml/core/raiseXmlError.hpp>
+#include <paxorel/xml/dom/Attr.hpp>
+#include <paxorel/xml/dom/CDATASection.hpp>
+#include <paxorel/xml/dom/Comment.hpp>
+#include <paxorel/xml/dom/DocumentConfiguration.hpp>
+#include <paxorel/xml/dom/DocumentFragment.hpp>
 #include <paxorel/xml/dom/DocumentRegistry.hpp>
+#include <paxorel/xml/dom/DocumentType.hpp>
+#include <paxorel/xml/dom/Element.hpp>
+#include <paxorel/xml/dom/Entity.hpp>
+#include <paxorel/xml/dom/EntityReference.hpp>
+#include <paxorel/xml/dom/NodeList.hpp>
+#include <paxorel/xml/dom/Notation.hpp>
+#include <paxorel/xml/dom/ProcessingInstruction.hpp>
+#include <paxorel/xml/dom/Text.hpp>
 
 #include <xercesc/dom/DOM.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 
 namespace paxorel::xml {
+
+using xercesc::DOMException;
+using xercesc::XMLPlatformUtils;
+
+namespace {
+
+ustring messageOf(const DOMException& e) { return XercesString::toUstring(e.getMessage()); }
+
+}  // namespace
 
 /// Deleter of the registry family: the one place where a Document is deleted.
 /// It is armed only once the registration has succeeded, so that a failure
@@ -17,13 +41,107 @@ struct Document::RegistryDeleter {
   }
 };
 
+struct Document::DoctypeNames {
+  const ustring& name;
+  const ustring& publicId;
+  const ustring& systemId;
+};
+
+// --- construction ---
+
 Document::Document() : Node(nullptr, nullptr) {
-  xercesc::DOMDocument* tree = lsImplementation()->createDocument(xercesc::XMLPlatformUtils::fgMemoryManager);
-  setImpl(tree);
+  setImpl(lsImplementation()->createDocument(XMLPlatformUtils::fgMemoryManager));
   registerSelf();
 }
 
 Document::Document(xercesc::DOMDocument* tree) : Node(tree, nullptr) { registerSelf(); }
+
+Document::Document(const ustring& qualifiedName) : Node(nullptr, nullptr) {
+  build(nullptr, qualifiedName, nullptr);
+}
+
+Document::Document(const ustring& namespaceURI, const ustring& qualifiedName) : Node(nullptr, nullptr) {
+  build(&namespaceURI, qualifiedName, nullptr);
+}
+
+Document::Document(const ustring& qualifiedName, const ustring& doctypeName, const ustring& publicId,
+                   const ustring& systemId)
+    : Node(nullptr, nullptr) {
+  const DoctypeNames doctype{doctypeName, publicId, systemId};
+  build(nullptr, qualifiedName, &doctype);
+}
+
+Document::Document(const ustring& namespaceURI, const ustring& qualifiedName, const ustring& doctypeName,
+                   const ustring& publicId, const ustring& systemId)
+    : Node(nullptr, nullptr) {
+  const DoctypeNames doctype{doctypeName, publicId, systemId};
+  build(&namespaceURI, qualifiedName, &doctype);
+}
+
+// Makes the tree: a document type first if there is one, then the document
+// with its root element. `namespaceURI` null is no namespace at all.
+void Document::build(const ustring* namespaceURI, const ustring& qualifiedName, const DoctypeNames* doctype) {
+  xercesc::DOMImplementation* implementation = lsImplementation();
+  xercesc::DOMDocumentType* type = nullptr;
+  if (doctype) {
+    try {
+      type = implementation->createDocumentType(XercesString(doctype->name), XercesString(doctype->publicId),
+                                                XercesString(doctype->systemId));
+    } catch (...) {
+      raiseDocTypeError(doctype->name);
+    }
+  }
+  const auto create = [&](xercesc::DOMDocumentType* withType) {
+    const XercesString name(qualifiedName);
+    if (!namespaceURI) return implementation->createDocument(nullptr, name, withType, XMLPlatformUtils::fgMemoryManager);
+    return implementation->createDocument(XercesString(*namespaceURI), name, withType, XMLPlatformUtils::fgMemoryManager);
+  };
+  try {
+    if (type) {
+      // Xerces leaves a document type half adopted, beyond release, when the
+      // document around it fails; so the root element is tried on its own
+      // first, and a refused one lets the new document type go cleanly.
+      try {
+        create(nullptr)->release();
+      } catch (...) {
+        type->release();
+        throw;
+      }
+    }
+    setImpl(create(type));
+  } catch (const DOMException& e) {
+    switch (e.code) {
+      case DOMException::INVALID_CHARACTER_ERR:
+        if (namespaceURI) raiseXmlError(*this, xml_error::docInvalidNSCharError(*namespaceURI, qualifiedName));
+        raiseXmlError(*this, xml_error::docInvalidCharError(qualifiedName));
+      case DOMException::NAMESPACE_ERR:
+        if (namespaceURI) raiseXmlError(*this, xml_error::docElemNameNSError(qualifiedName, *namespaceURI));
+        raiseXmlError(*this, xml_error::docElemNameError(qualifiedName));
+      case DOMException::WRONG_DOCUMENT_ERR:
+        if (doctype) raiseXmlError(*this, xml_error::docDoctypeError(doctype->name));
+        raiseXmlError(*this, xml_error::docCreationError(messageOf(e)));
+      default: raiseXmlError(*this, xml_error::docCreationError(messageOf(e)));
+    }
+  } catch (...) {
+    raiseXmlError(*this, xml_error::docCreationUnknownError());
+  }
+  registerSelf();
+}
+
+// The failure of making a document type, from within the handler that caught it.
+void Document::raiseDocTypeError(const ustring& name) const {
+  try {
+    throw;
+  } catch (const DOMException& e) {
+    switch (e.code) {
+      case DOMException::INVALID_CHARACTER_ERR: raiseXmlError(*this, xml_error::docTypeInvalidCharError(name));
+      case DOMException::NAMESPACE_ERR: raiseXmlError(*this, xml_error::docTypeNameError(name));
+      default: raiseXmlError(*this, xml_error::docTypeCreationError(messageOf(e)));
+    }
+  } catch (...) {
+    raiseXmlError(*this, xml_error::docTypeCreationUnknownError());
+  }
+}
 
 Document::~Document() {
   if (xercesc::DOMNode* tree = Node::getImpl()) tree->release();
@@ -43,6 +161,297 @@ xercesc::DOMDocument* Document::getImpl() const noexcept {
   return static_cast<xercesc::DOMDocument*>(Node::getImpl());
 }
 
+xercesc::DOMDocument* Document::tree() const { return implAs<xercesc::DOMDocument>(); }
+
+// --- properties ---
+
+ustring Document::getInputEncoding() const { return XercesString::toUstring(tree()->getInputEncoding()); }
+ustring Document::getXmlEncoding() const { return XercesString::toUstring(tree()->getXmlEncoding()); }
+ustring Document::getXmlVersion() const { return XercesString::toUstring(tree()->getXmlVersion()); }
+ustring Document::getDocumentURI() const { return XercesString::toUstring(tree()->getDocumentURI()); }
+bool Document::getXmlStandalone() const { return tree()->getXmlStandalone(); }
+void Document::setXmlStandalone(bool standalone) { tree()->setXmlStandalone(standalone); }
+void Document::setXmlVersion(const ustring& version) { tree()->setXmlVersion(XercesString(version)); }
+void Document::setDocumentURI(const ustring& documentURI) { tree()->setDocumentURI(XercesString(documentURI)); }
+
+Element* Document::getDocumentElement() const {
+  xercesc::DOMElement* root = tree()->getDocumentElement();
+  return root ? new Element(root, getOwnerDocWrapper()) : nullptr;
+}
+
+DocumentType* Document::getDoctype() const {
+  xercesc::DOMDocumentType* doctype = tree()->getDoctype();
+  return doctype ? new DocumentType(doctype, getOwnerDocWrapper()) : nullptr;
+}
+
+DocumentConfiguration* Document::getDOMConfig() const {
+  return new DocumentConfiguration(tree()->getDOMConfig(), getOwnerDocWrapper());
+}
+
+// --- factories ---
+
+Element* Document::createElement(const ustring& tagName) {
+  try {
+    return new Element(tree()->createElement(XercesString(tagName)), getOwnerDocWrapper());
+  } catch (const DOMException& e) {
+    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
+      raiseXmlError(*this, xml_error::docCreateElemInvalidCharError(tagName));
+    }
+    return nullptr;
+  }
+}
+
+Element* Document::createElementNS(const ustring& namespaceURI, const ustring& qualifiedName) {
+  try {
+    return new Element(tree()->createElementNS(XercesString(namespaceURI), XercesString(qualifiedName)),
+                       getOwnerDocWrapper());
+  } catch (const DOMException& e) {
+    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
+      raiseXmlError(*this, xml_error::docCreateElemInvalidCharError(qualifiedName));
+    }
+    if (e.code == DOMException::NAMESPACE_ERR) {
+      raiseXmlError(*this, xml_error::docCreateElemNSNamespaceError(namespaceURI, qualifiedName));
+    }
+    return nullptr;
+  }
+}
+
+Attr* Document::createAttribute(const ustring& name) {
+  try {
+    return new Attr(tree()->createAttribute(XercesString(name)), getOwnerDocWrapper());
+  } catch (const DOMException& e) {
+    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
+      raiseXmlError(*this, xml_error::docCreateAttrInvalidCharError(name));
+    }
+    return nullptr;
+  }
+}
+
+Attr* Document::createAttributeNS(const ustring& namespaceURI, const ustring& qualifiedName) {
+  try {
+    return new Attr(tree()->createAttributeNS(XercesString(namespaceURI), XercesString(qualifiedName)),
+                    getOwnerDocWrapper());
+  } catch (const DOMException& e) {
+    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
+      raiseXmlError(*this, xml_error::docCreateAttrInvalidCharError(qualifiedName));
+    }
+    if (e.code == DOMException::NAMESPACE_ERR) {
+      raiseXmlError(*this, xml_error::docCreateAttrNSNamespaceError(namespaceURI, qualifiedName));
+    }
+    return nullptr;
+  }
+}
+
+Text* Document::createTextNode(const ustring& data) {
+  return new Text(tree()->createTextNode(XercesString(data)), getOwnerDocWrapper());
+}
+
+Comment* Document::createComment(const ustring& data) {
+  return new Comment(tree()->createComment(XercesString(data)), getOwnerDocWrapper());
+}
+
+CDATASection* Document::createCDATASection(const ustring& data) {
+  return new CDATASection(tree()->createCDATASection(XercesString(data)), getOwnerDocWrapper());
+}
+
+ProcessingInstruction* Document::createProcessingInstruction(const ustring& target, const ustring& data) {
+  try {
+    return new ProcessingInstruction(tree()->createProcessingInstruction(XercesString(target), XercesString(data)),
+                                     getOwnerDocWrapper());
+  } catch (const DOMException& e) {
+    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
+      raiseXmlError(*this, xml_error::docCreateProcessingInstructionInvalidCharError(target));
+    }
+    return nullptr;
+  }
+}
+
+DocumentFragment* Document::createDocumentFragment() {
+  return new DocumentFragment(tree()->createDocumentFragment(), getOwnerDocWrapper());
+}
+
+Entity* Document::createEntity(const ustring& name) {
+  try {
+    return new Entity(tree()->createEntity(XercesString(name)), getOwnerDocWrapper());
+  } catch (const DOMException& e) {
+    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
+      raiseXmlError(*this, xml_error::docCreateEntityInvalidCharError(name));
+    }
+    return nullptr;
+  }
+}
+
+EntityReference* Document::createEntityReference(const ustring& name) {
+  try {
+    return new EntityReference(tree()->createEntityReference(XercesString(name)), getOwnerDocWrapper());
+  } catch (const DOMException& e) {
+    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
+      raiseXmlError(*this, xml_error::docCreateEntityRefInvalidCharError(name));
+    }
+    return nullptr;
+  }
+}
+
+Notation* Document::createNotation(const ustring& name) {
+  try {
+    return new Notation(tree()->createNotation(XercesString(name)), getOwnerDocWrapper());
+  } catch (const DOMException& e) {
+    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
+      raiseXmlError(*this, xml_error::docCreateNotationInvalidCharError(name));
+    }
+    return nullptr;
+  }
+}
+
+DocumentType* Document::createDocumentType(const ustring& qualifiedName) {
+  try {
+    return new DocumentType(tree()->createDocumentType(XercesString(qualifiedName)), getOwnerDocWrapper());
+  } catch (...) {
+    raiseDocTypeError(qualifiedName);
+  }
+}
+
+DocumentType* Document::createDocumentType(const ustring& qualifiedName, const ustring& publicId,
+                                           const ustring& systemId) {
+  try {
+    return new DocumentType(
+        tree()->createDocumentType(XercesString(qualifiedName), XercesString(publicId), XercesString(systemId)),
+        getOwnerDocWrapper());
+  } catch (...) {
+    raiseDocTypeError(qualifiedName);
+  }
+}
+
+// --- finders ---
+
+Element* Document::getElementById(const ustring& elementId) const {
+  xercesc::DOMElement* element = tree()->getElementById(XercesString(elementId));
+  return element ? new Element(element, getOwnerDocWrapper()) : nullptr;
+}
+
+NodeList* Document::getElementsByTagName(const ustring& tagName) const {
+  xercesc::DOMNodeList* list = tree()->getElementsByTagName(XercesString(tagName));
+  return list ? new NodeList(list, getOwnerDocWrapper()) : nullptr;
+}
+
+NodeList* Document::getElementsByTagNameNS(const ustring& namespaceURI, const ustring& localName) const {
+  return new NodeList(tree()->getElementsByTagNameNS(XercesString(namespaceURI), XercesString(localName)),
+                      getOwnerDocWrapper());
+}
+
+// --- changing the document ---
+
+Node* Document::importNode(Node* node) { return importNodeBase(node, true); }
+
+Node* Document::importNodeBase(Node* node, bool deep) {
+  const xercesc::DOMNode* source = implOf(*this, node);
+  try {
+    return downcast(tree()->importNode(source, deep), getOwnerDocWrapper());
+  } catch (const DOMException& e) {
+    const ustring name = node->getNodeName();
+    if (e.code == DOMException::NOT_SUPPORTED_ERR) {
+      raiseXmlError(*this, xml_error::importNodeUnsupportedError(name, node->getNodeTypeName()));
+    }
+    raiseXmlError(*this, xml_error::importNodeError(name, messageOf(e)));
+  } catch (...) {
+    raiseXmlError(*this, xml_error::importNodeUnknownError(node->getNodeName()));
+  }
+}
+
+Node* Document::renameNode(Node* node, const ustring& namespaceURI, const ustring& qualifiedName) {
+  xercesc::DOMNode* source = implOf(*this, node);
+  try {
+    xercesc::DOMNode* renamed = tree()->renameNode(source, XercesString(namespaceURI), XercesString(qualifiedName));
+    if (renamed != source) node->setImpl(renamed);
+  } catch (const DOMException& e) {
+    const ustring name = node->getNodeName();
+    switch (e.code) {
+      case DOMException::NOT_SUPPORTED_ERR:
+        raiseXmlError(*this, xml_error::renameNodeUnsupportedError(name, node->getNodeTypeName()));
+      case DOMException::WRONG_DOCUMENT_ERR: raiseXmlError(*this, xml_error::renameNodeWrongDocumentError(name));
+      case DOMException::NAMESPACE_ERR: {
+        // One code for several mistakes: name the one that was likely meant.
+        static const ustring xmlNamespace = u"http://www.w3.org/XML/1998/namespace";
+        static const ustring xmlnsNamespace = u"http://www.w3.org/2000/xmlns/";
+        if (qualifiedName.find(u':') != ustring::npos && namespaceURI.empty()) {
+          raiseXmlError(*this, xml_error::renameNodeMissingNamespaceError(name, qualifiedName));
+        }
+        if (qualifiedName.find(u"xml:") != ustring::npos && namespaceURI != xmlNamespace) {
+          raiseXmlError(*this, xml_error::renameNodeNotXMLNamespaceError(name, qualifiedName));
+        }
+        if (node->getNodeType() == ATTRIBUTE_NODE && qualifiedName.find(u"xmlns") != ustring::npos &&
+            namespaceURI != xmlnsNamespace) {
+          raiseXmlError(*this, xml_error::renameNodeInvalidAttrNamespaceError(name, qualifiedName));
+        }
+        raiseXmlError(*this, xml_error::renameNodeError(name, messageOf(e)));
+      }
+      default: raiseXmlError(*this, xml_error::renameNodeError(name, messageOf(e)));
+    }
+  } catch (...) {
+    raiseXmlError(*this, xml_error::renameNodeUnknownError(node->getNodeName()));
+  }
+  return node;
+}
+
+namespace {
+
+// Keeps the first error that Xerces reports while normalising, and stops it.
+class ErrorCollector : public xercesc::DOMErrorHandler {
+ public:
+  bool handleError(const xercesc::DOMError& error) override {
+    failed = true;
+    if (const XMLCh* text = error.getMessage()) message = text;
+    if (const XMLCh* kind = error.getType()) type = kind;
+    return false;
+  }
+
+  bool failed = false;
+  ustring message;
+  ustring type;
+};
+
+// The collector is the document's error handler only while it lives.
+class CollectorScope {
+ public:
+  CollectorScope(xercesc::DOMConfiguration* configuration, const ErrorCollector& collector)
+      : configuration_(configuration) {
+    const xercesc::DOMErrorHandler* handler = &collector;
+    configuration_->setParameter(xercesc::XMLUni::fgDOMErrorHandler, static_cast<const void*>(handler));
+  }
+  ~CollectorScope() {
+    configuration_->setParameter(xercesc::XMLUni::fgDOMErrorHandler, static_cast<const void*>(nullptr));
+  }
+  CollectorScope(const CollectorScope&) = delete;
+  CollectorScope& operator=(const CollectorScope&) = delete;
+
+ private:
+  xercesc::DOMConfiguration* configuration_;
+};
+
+}  // namespace
+
+void Document::normalizeDocument() {
+  xercesc::DOMDocument* document = tree();
+  ErrorCollector collector;
+  try {
+    const CollectorScope scope(document->getDOMConfig(), collector);
+    document->normalizeDocument();
+  } catch (...) {
+    if (collector.failed) raiseXmlError(*this, xml_error::normalizeDocumentError(collector.message));
+    raiseXmlError(*this, xml_error::normalizeDocumentUnknownError());
+  }
+}
+
+// --- free functions ---
+
 std::shared_ptr<Document> createDocument() { return DocumentRegistry::shareWithCaller(new Document()); }
+
+std::shared_ptr<Document> createDocument(const ustring& qualifiedName) {
+  return DocumentRegistry::shareWithCaller(new Document(qualifiedName));
+}
+
+std::shared_ptr<Document> createDocument(const ustring& namespaceURI, const ustring& qualifiedName) {
+  return DocumentRegistry::shareWithCaller(new Document(namespaceURI, qualifiedName));
+}
 
 }  // namespace paxorel::xml

@@ -213,4 +213,149 @@ NamedNodeMap* Node::getAttributes() const {
   return map ? new NamedNodeMap(map, getOwnerDocWrapper()) : nullptr;
 }
 
+// --- changes ---
+
+namespace {
+
+// Xerces does not refuse making a node its own child, and the tree it then
+// builds is a cycle; refuse it the way Xerces refuses the other cycles.
+void refuseSelfChild(const DOMNode* parent, const DOMNode* child) {
+  if (parent == child) throw xercesc::DOMException(xercesc::DOMException::HIERARCHY_REQUEST_ERR);
+}
+
+ustring messageOf(const xercesc::DOMException& e) { return XercesString::toUstring(e.getMessage()); }
+
+}  // namespace
+
+Node* Node::appendChild(Node* newChild) {
+  DOMNode* parent = impl();
+  DOMNode* child = implOf(*this, newChild);
+  try {
+    refuseSelfChild(parent, child);
+    parent->appendChild(child);
+    if (!newChild->getOwnerDocWrapper()) newChild->setOwnerDocWrapper(getOwnerDocument());
+  } catch (const xercesc::DOMException& e) {
+    const ustring name = newChild->getNodeName();
+    switch (e.code) {
+      case xercesc::DOMException::HIERARCHY_REQUEST_ERR:
+        raiseXmlError(*this, xml_error::nodeAppendChildHierarchyError(name, newChild->getNodeTypeName(),
+                                                                     getNodeTypeName()));
+      case xercesc::DOMException::WRONG_DOCUMENT_ERR:
+        raiseXmlError(*this, xml_error::nodeAppendChildWrongDocumentError(name));
+      case xercesc::DOMException::NO_MODIFICATION_ALLOWED_ERR:
+        raiseXmlError(*this, xml_error::nodeAppendChildReadOnlyError(name));
+      default: raiseXmlError(*this, xml_error::nodeAppendChildError(name, messageOf(e)));
+    }
+  } catch (...) {
+    raiseXmlError(*this, xml_error::nodeAppendChildUnknownError(newChild->getNodeName()));
+  }
+  return newChild;
+}
+
+Node* Node::insertBefore(Node* newChild, Node* refChild) {
+  DOMNode* parent = impl();
+  DOMNode* child = implOf(*this, newChild);
+  DOMNode* reference = implOf(*this, refChild);
+  if (child == parent) raiseXmlError(*this, xml_error::nodeInsertBeforeSelfError(newChild->getNodeName()));
+  try {
+    parent->insertBefore(child, reference);
+  } catch (const xercesc::DOMException& e) {
+    const ustring name = newChild->getNodeName();
+    switch (e.code) {
+      case xercesc::DOMException::HIERARCHY_REQUEST_ERR:
+        raiseXmlError(*this, xml_error::nodeInsertBeforeHierarchyError(name, getNodeTypeName(),
+                                                                      newChild->getNodeTypeName()));
+      case xercesc::DOMException::WRONG_DOCUMENT_ERR:
+        raiseXmlError(*this, xml_error::nodeInsertBeforeWrongDocumentError(name));
+      case xercesc::DOMException::NO_MODIFICATION_ALLOWED_ERR:
+        raiseXmlError(*this, xml_error::nodeInsertBeforeReadOnlyError(name));
+      case xercesc::DOMException::NOT_FOUND_ERR:
+        raiseXmlError(*this, xml_error::nodeInsertBeforeNotFoundError(name, refChild->getNodeName()));
+      default: raiseXmlError(*this, xml_error::nodeInsertBeforeError(name, messageOf(e)));
+    }
+  }
+  return newChild;
+}
+
+Node* Node::replaceChild(Node* newChild, Node* oldChild) {
+  DOMNode* parent = impl();
+  DOMNode* child = implOf(*this, newChild);
+  DOMNode* old = implOf(*this, oldChild);
+  try {
+    refuseSelfChild(parent, child);
+    parent->replaceChild(child, old);
+  } catch (const xercesc::DOMException& e) {
+    const ustring name = newChild->getNodeName();
+    switch (e.code) {
+      case xercesc::DOMException::HIERARCHY_REQUEST_ERR:
+        raiseXmlError(*this, xml_error::nodeReplaceChildHierarchyError(name, getNodeTypeName(),
+                                                                      newChild->getNodeTypeName()));
+      case xercesc::DOMException::WRONG_DOCUMENT_ERR:
+        raiseXmlError(*this, xml_error::nodeReplaceChildWrongDocumentError(name));
+      case xercesc::DOMException::NO_MODIFICATION_ALLOWED_ERR:
+        raiseXmlError(*this, xml_error::nodeReplaceChildReadOnlyError(name));
+      case xercesc::DOMException::NOT_FOUND_ERR:
+        raiseXmlError(*this, xml_error::nodeReplaceChildNotFoundError(name, oldChild->getNodeName()));
+      default: raiseXmlError(*this, xml_error::nodeReplaceChildError(name, messageOf(e)));
+    }
+  }
+  return newChild;
+}
+
+Node* Node::removeChild(Node* oldChild) {
+  DOMNode* parent = impl();
+  DOMNode* child = implOf(*this, oldChild);
+  try {
+    parent->removeChild(child);
+  } catch (const xercesc::DOMException& e) {
+    const ustring name = oldChild->getNodeName();
+    switch (e.code) {
+      case xercesc::DOMException::NO_MODIFICATION_ALLOWED_ERR:
+        raiseXmlError(*this, xml_error::nodeRemoveChildReadOnlyError(name));
+      case xercesc::DOMException::NOT_FOUND_ERR:  // the child's name twice, not the parent's
+        raiseXmlError(*this, xml_error::nodeRemoveChildNotFoundError(name, name));
+      default: raiseXmlError(*this, xml_error::nodeRemoveChildError(name, messageOf(e)));
+    }
+  }
+  return oldChild;
+}
+
+Node* Node::cloneNode(bool deep) const {
+  DOMNode* copy = impl()->cloneNode(deep);
+  if (copy && copy->getNodeType() == DOMNode::DOCUMENT_NODE) {
+    // A document's copy is answered by the document itself; the copy that
+    // Xerces made is reachable by nobody, so it goes at once.
+    copy->release();
+    return getOwnerDocWrapper().get();
+  }
+  return downcast(copy, getOwnerDocWrapper());
+}
+
+void Node::normalize() { impl()->normalize(); }
+
+void Node::setPrefix(const ustring& prefix) {
+  try {
+    impl()->setPrefix(XercesString(prefix));
+  } catch (const xercesc::DOMException& e) {
+    switch (e.code) {
+      case xercesc::DOMException::INVALID_CHARACTER_ERR:
+        raiseXmlError(*this, xml_error::nodeSetPrefixInvalidCharError(prefix));
+      case xercesc::DOMException::NO_MODIFICATION_ALLOWED_ERR:
+        raiseXmlError(*this, xml_error::nodeSetPrefixNoModError(prefix));
+      case xercesc::DOMException::NAMESPACE_ERR: raiseXmlError(*this, xml_error::nodeSetPrefixNamespaceError(prefix));
+      default: break;  // any other refusal is swallowed
+    }
+  }
+}
+
+void Node::setTextContent(const ustring& text) {
+  try {
+    impl()->setTextContent(XercesString(text));
+  } catch (const xercesc::DOMException&) {
+    raiseXmlError(*this, xml_error::nodeSetTextContentNoModError(text));
+  }
+}
+
+void Node::setNodeValue(const ustring& value) { impl()->setNodeValue(XercesString(value)); }
+
 }  // namespace paxorel::xml

@@ -122,6 +122,34 @@ class Node : public XMLObject {
   /// The attributes of an element; null for every other node.
   NamedNodeMap* getAttributes() const;
 
+  // --- changes; the child operations return their argument itself ---
+
+  /// Appends `newChild`; a document type that belongs to no document yet
+  /// becomes this node's document's. Null is emptyNodeArgument; Xerces's
+  /// refusals are nodeAppendChild...Error.
+  Node* appendChild(Node* newChild);
+  /// Inserts `newChild` before `refChild`; neither may be null (a null
+  /// `refChild` does not mean appending), and a node is never inserted into
+  /// itself (nodeInsertBeforeSelfError).
+  Node* insertBefore(Node* newChild, Node* refChild);
+  /// Puts `newChild` in the place of `oldChild`; returns `newChild`.
+  Node* replaceChild(Node* newChild, Node* oldChild);
+  /// Takes `oldChild` out of the tree; its wrapper stays usable, the document
+  /// keeps the node.
+  Node* removeChild(Node* oldChild);
+  /// A copy without a parent, in the same document. A document's copy is the
+  /// document itself.
+  Node* cloneNode(bool deep) const;
+  /// Xerces's DOMException passes through.
+  void normalize();
+  /// Refusals for a bad character, a read-only node or a namespace mismatch
+  /// are errors; any other refusal leaves the prefix as it was, silently.
+  void setPrefix(const ustring& prefix);
+  /// Every refusal of Xerces is nodeSetTextContentNoModError.
+  void setTextContent(const ustring& text);
+  /// Xerces's DOMException passes through.
+  void setNodeValue(const ustring& value);
+
  protected:
   /// The wrapped node; emptyNodeArgument when there is none.
   xercesc::DOMNode* impl() const;
