@@ -190,56 +190,53 @@ DocumentConfiguration* Document::getDOMConfig() const {
 
 // --- factories ---
 
-Element* Document::createElement(const ustring& tagName) {
+// A new node from `create`, in a new `Wrapper`. A name with a character
+// Xerces refuses is `InvalidChar` with `name`; any other refusal gives null.
+template <class Wrapper, class InvalidChar, class Create>
+Wrapper* Document::made(const ustring& name, Create create) {
   try {
-    return new Element(tree()->createElement(XercesString(tagName)), getOwnerDocWrapper());
+    return new Wrapper(create(*tree()), getOwnerDocWrapper());
   } catch (const DOMException& e) {
-    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
-      raiseXmlError(*this, xml_error::docCreateElemInvalidCharError(tagName));
-    }
+    if (e.code == DOMException::INVALID_CHARACTER_ERR) raiseXmlError(*this, InvalidChar(name));
     return nullptr;
   }
+}
+
+// The same for the namespace forms, where a name that does not fit its
+// namespace is `NamespaceMismatch` with the namespace and the name.
+template <class Wrapper, class InvalidChar, class NamespaceMismatch, class Create>
+Wrapper* Document::madeNS(const ustring& namespaceURI, const ustring& qualifiedName, Create create) {
+  try {
+    return new Wrapper(create(*tree()), getOwnerDocWrapper());
+  } catch (const DOMException& e) {
+    if (e.code == DOMException::INVALID_CHARACTER_ERR) raiseXmlError(*this, InvalidChar(qualifiedName));
+    if (e.code == DOMException::NAMESPACE_ERR) raiseXmlError(*this, NamespaceMismatch(namespaceURI, qualifiedName));
+    return nullptr;
+  }
+}
+
+Element* Document::createElement(const ustring& tagName) {
+  return made<Element, xml_error::docCreateElemInvalidCharError>(
+      tagName, [&](xercesc::DOMDocument& document) { return document.createElement(XercesString(tagName)); });
 }
 
 Element* Document::createElementNS(const ustring& namespaceURI, const ustring& qualifiedName) {
-  try {
-    return new Element(tree()->createElementNS(XercesString(namespaceURI), XercesString(qualifiedName)),
-                       getOwnerDocWrapper());
-  } catch (const DOMException& e) {
-    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
-      raiseXmlError(*this, xml_error::docCreateElemInvalidCharError(qualifiedName));
-    }
-    if (e.code == DOMException::NAMESPACE_ERR) {
-      raiseXmlError(*this, xml_error::docCreateElemNSNamespaceError(namespaceURI, qualifiedName));
-    }
-    return nullptr;
-  }
+  return madeNS<Element, xml_error::docCreateElemInvalidCharError, xml_error::docCreateElemNSNamespaceError>(
+      namespaceURI, qualifiedName, [&](xercesc::DOMDocument& document) {
+        return document.createElementNS(XercesString(namespaceURI), XercesString(qualifiedName));
+      });
 }
 
 Attr* Document::createAttribute(const ustring& name) {
-  try {
-    return new Attr(tree()->createAttribute(XercesString(name)), getOwnerDocWrapper());
-  } catch (const DOMException& e) {
-    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
-      raiseXmlError(*this, xml_error::docCreateAttrInvalidCharError(name));
-    }
-    return nullptr;
-  }
+  return made<Attr, xml_error::docCreateAttrInvalidCharError>(
+      name, [&](xercesc::DOMDocument& document) { return document.createAttribute(XercesString(name)); });
 }
 
 Attr* Document::createAttributeNS(const ustring& namespaceURI, const ustring& qualifiedName) {
-  try {
-    return new Attr(tree()->createAttributeNS(XercesString(namespaceURI), XercesString(qualifiedName)),
-                    getOwnerDocWrapper());
-  } catch (const DOMException& e) {
-    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
-      raiseXmlError(*this, xml_error::docCreateAttrInvalidCharError(qualifiedName));
-    }
-    if (e.code == DOMException::NAMESPACE_ERR) {
-      raiseXmlError(*this, xml_error::docCreateAttrNSNamespaceError(namespaceURI, qualifiedName));
-    }
-    return nullptr;
-  }
+  return madeNS<Attr, xml_error::docCreateAttrInvalidCharError, xml_error::docCreateAttrNSNamespaceError>(
+      namespaceURI, qualifiedName, [&](xercesc::DOMDocument& document) {
+        return document.createAttributeNS(XercesString(namespaceURI), XercesString(qualifiedName));
+      });
 }
 
 Text* Document::createTextNode(const ustring& data) {
@@ -255,15 +252,10 @@ CDATASection* Document::createCDATASection(const ustring& data) {
 }
 
 ProcessingInstruction* Document::createProcessingInstruction(const ustring& target, const ustring& data) {
-  try {
-    return new ProcessingInstruction(tree()->createProcessingInstruction(XercesString(target), XercesString(data)),
-                                     getOwnerDocWrapper());
-  } catch (const DOMException& e) {
-    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
-      raiseXmlError(*this, xml_error::docCreateProcessingInstructionInvalidCharError(target));
-    }
-    return nullptr;
-  }
+  return made<ProcessingInstruction, xml_error::docCreateProcessingInstructionInvalidCharError>(
+      target, [&](xercesc::DOMDocument& document) {
+        return document.createProcessingInstruction(XercesString(target), XercesString(data));
+      });
 }
 
 DocumentFragment* Document::createDocumentFragment() {
@@ -271,36 +263,18 @@ DocumentFragment* Document::createDocumentFragment() {
 }
 
 Entity* Document::createEntity(const ustring& name) {
-  try {
-    return new Entity(tree()->createEntity(XercesString(name)), getOwnerDocWrapper());
-  } catch (const DOMException& e) {
-    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
-      raiseXmlError(*this, xml_error::docCreateEntityInvalidCharError(name));
-    }
-    return nullptr;
-  }
+  return made<Entity, xml_error::docCreateEntityInvalidCharError>(
+      name, [&](xercesc::DOMDocument& document) { return document.createEntity(XercesString(name)); });
 }
 
 EntityReference* Document::createEntityReference(const ustring& name) {
-  try {
-    return new EntityReference(tree()->createEntityReference(XercesString(name)), getOwnerDocWrapper());
-  } catch (const DOMException& e) {
-    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
-      raiseXmlError(*this, xml_error::docCreateEntityRefInvalidCharError(name));
-    }
-    return nullptr;
-  }
+  return made<EntityReference, xml_error::docCreateEntityRefInvalidCharError>(
+      name, [&](xercesc::DOMDocument& document) { return document.createEntityReference(XercesString(name)); });
 }
 
 Notation* Document::createNotation(const ustring& name) {
-  try {
-    return new Notation(tree()->createNotation(XercesString(name)), getOwnerDocWrapper());
-  } catch (const DOMException& e) {
-    if (e.code == DOMException::INVALID_CHARACTER_ERR) {
-      raiseXmlError(*this, xml_error::docCreateNotationInvalidCharError(name));
-    }
-    return nullptr;
-  }
+  return made<Notation, xml_error::docCreateNotationInvalidCharError>(
+      name, [&](xercesc::DOMDocument& document) { return document.createNotation(XercesString(name)); });
 }
 
 DocumentType* Document::createDocumentType(const ustring& qualifiedName) {

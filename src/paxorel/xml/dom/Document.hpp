@@ -129,6 +129,10 @@ class Document final : public Node {
   xercesc::DOMDocument* tree() const;
   void build(const ustring* namespaceURI, const ustring& qualifiedName, const DoctypeNames* doctype);
   [[noreturn]] void raiseDocTypeError(const ustring& name) const;
+  template <class Wrapper, class InvalidChar, class Create>
+  Wrapper* made(const ustring& name, Create create);
+  template <class Wrapper, class InvalidChar, class NamespaceMismatch, class Create>
+  Wrapper* madeNS(const ustring& namespaceURI, const ustring& qualifiedName, Create create);
 
   XercesGuard guard_;
 };
