@@ -32,6 +32,16 @@ const DOMNode* nextInDocument(const DOMNode* node, const DOMNode* root) {
   return nullptr;
 }
 
+// Whether `node` lies inside an entity or an entity reference, the places
+// where the DOM makes elements read-only.
+bool isReadOnly(const DOMNode* node) {
+  for (; node; node = node->getParentNode()) {
+    const DOMNode::NodeType type = node->getNodeType();
+    if (type == DOMNode::ENTITY_REFERENCE_NODE || type == DOMNode::ENTITY_NODE) return true;
+  }
+  return false;
+}
+
 // The failures of setAttributeNode and setAttributeNodeNS, which map alike:
 // the attribute's name is read first, then the tag. Returns for any other code.
 void raiseSetAttrNodeError(const Element& self, const DOMException& e, const Attr& attr) {
@@ -170,7 +180,11 @@ Attr* Element::setAttributeNode(Attr* attr) {
   DOMElement* element = implAs<DOMElement>();
   DOMAttr* node = attrOf(*this, attr);
   try {
-    element->setAttributeNode(node);
+    // Xerces, given an attribute that this element already carries, leaves it
+    // in the element's map but marks it as without owner, after which another
+    // element could take it too. Setting it again would change nothing, so
+    // Xerces is asked only to refuse it on a read-only element.
+    if (node->getOwnerElement() != element || isReadOnly(element)) element->setAttributeNode(node);
   } catch (const DOMException& e) {
     raiseSetAttrNodeError(*this, e, *attr);
     return nullptr;

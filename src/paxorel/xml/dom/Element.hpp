@@ -60,7 +60,8 @@ class Element : public Node {
   /// Adds `attr`, replacing an attribute of its name, and returns `attr` (the
   /// replaced attribute is not handed out). elemSetAttrNodeWrongDocError for
   /// an attribute of another document, elemSetAttrNodeInUseError for one of
-  /// another element, elemSetAttrReadOnlyError on a read-only element.
+  /// another element, elemSetAttrReadOnlyError on a read-only element. An
+  /// attribute that the element already carries stays as it is.
   Attr* setAttributeNode(Attr* attr);
   /// As setAttributeNode, matching by namespace and local name.
   Attr* setAttributeNodeNS(Attr* attr);

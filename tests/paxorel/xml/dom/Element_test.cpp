@@ -215,3 +215,23 @@ TEST_F(ElementTest, IdAttributesAreMarkedByNameByNamespaceAndByNode) {
   ASSERT_NE(byId, nullptr);
   EXPECT_TRUE(byId->isSameNode(root.get()));
 }
+
+TEST_F(ElementTest, SettingAnAttributeTheElementAlreadyHasChangesNothing) {
+  const std::unique_ptr<Attr> a(root->getAttributeNode(u"a"));
+  EXPECT_EQ(root->setAttributeNode(a.get()), a.get());
+  const std::unique_ptr<Element> owner(a->getOwnerElement());
+  ASSERT_NE(owner, nullptr);
+  EXPECT_TRUE(owner->isSameNode(root.get()));
+  // Still this element's: another element may not take it as well.
+  const std::unique_ptr<Element> first(root->getFirstElementChild());
+  EXPECT_XML_ERROR(first->setAttributeNode(a.get()), "elemSetAttrNodeInUseError", u"a", u"first");
+  EXPECT_FALSE(first->hasAttribute(u"a"));
+
+  // A read-only element still refuses it, and keeps it.
+  const auto x = readOnly();
+  const std::unique_ptr<Attr> xa(x->getAttributeNode(u"a"));
+  EXPECT_XML_ERROR(x->setAttributeNode(xa.get()), "elemSetAttrReadOnlyError", u"a", u"x");
+  const std::unique_ptr<Element> xOwner(xa->getOwnerElement());
+  ASSERT_NE(xOwner, nullptr);
+  EXPECT_TRUE(xOwner->isSameNode(x.get()));
+}
