@@ -23,4 +23,5 @@ class DOMNodeList;
 class DOMNotation;
 class DOMProcessingInstruction;
 class DOMText;
+class DOMTypeInfo;
 XERCES_CPP_NAMESPACE_END
