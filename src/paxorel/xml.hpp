@@ -25,6 +25,7 @@
 #include <paxorel/xml/dom/Notation.hpp>
 #include <paxorel/xml/dom/ProcessingInstruction.hpp>
 #include <paxorel/xml/dom/Text.hpp>
+#include <paxorel/xml/dom/TypeInfo.hpp>
 #include <paxorel/xml/dom/XMLObject.hpp>
 
 #include <paxorel/xml/parse/Parser.hpp>
