@@ -65,7 +65,26 @@ int main(int argc, char** argv) {
     return 1;
   }
 
-  std::cout << "A malformed string:\n";
+  // A document built by hand: a root, a child with attributes, some text.
+  std::cout << "Built by hand:\n";
+  const std::shared_ptr<Document> built = createDocument(u"urn:example:greenhouse", u"greenhouse");
+  const std::unique_ptr<Element> root(built->getDocumentElement());
+  const std::unique_ptr<Element> bed(built->createElementNS(u"urn:example:greenhouse", u"bed"));
+  bed->setAttribute(u"id", u"b3");
+  bed->setAttribute(u"light", u"shade");
+  const std::unique_ptr<Text> text(built->createTextNode(u"ferns"));
+  bed->appendChild(text.get());
+  root->appendChild(bed.get());
+  int limit = 6;
+  listElements(*built, limit, 0);
+  std::cout << "  text of the root: " << utf8(root->getTextContent()) << "\n";
+
+  std::cout << "Failures keep their identifiers:\n";
+  try {
+    root->appendChild(root.get());
+  } catch (const basis::except::IMsgIDException& e) {
+    std::cout << "  " << e.GetID() << "\n  " << e.what() << "\n";
+  }
   try {
     parseString(u"<greenhouse><bed></greenhouse>");
   } catch (const basis::except::IMsgIDException& e) {
