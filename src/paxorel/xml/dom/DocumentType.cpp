@@ -1,11 +1,60 @@
 #include <paxorel/xml/dom/DocumentType.hpp>
 
+#include <paxorel/xml/core/XercesGuard.hpp>
+#include <paxorel/xml/core/XercesString.hpp>
+#include <paxorel/xml/dom/NamedNodeMap.hpp>
+
 #include <xercesc/dom/DOMDocumentType.hpp>
+#include <xercesc/dom/DOMImplementation.hpp>
 
 namespace paxorel::xml {
 
-DocumentType::DocumentType(xercesc::DOMDocumentType* impl, std::shared_ptr<Document> owner) : Node(impl, std::move(owner)) {}
+using xercesc::DOMDocumentType;
+
+namespace {
+
+// A document type made outside any document is freed by Xerces only once a
+// document has adopted it. Until then it belongs jointly to its wrapper and to
+// every wrapper made from it, which all share this pointer: the last of them
+// releases the node, unless a document has taken it over in the meantime.
+std::shared_ptr<DOMDocumentType> makeOrphan(const ustring& name, const ustring& publicId, const ustring& systemId) {
+  DOMDocumentType* node = lsImplementation()->createDocumentType(
+      XercesString(name), XercesString(publicId), XercesString(systemId));
+  return std::shared_ptr<DOMDocumentType>(node, [](DOMDocumentType* orphan) {
+    if (!orphan->getOwnerDocument()) orphan->release();
+  });
+}
+
+}  // namespace
+
+DocumentType::DocumentType(DOMDocumentType* impl, std::shared_ptr<Document> owner) : Node(impl, std::move(owner)) {}
+
+DocumentType::DocumentType(const ustring& name, const ustring& publicId, const ustring& systemId)
+    : DocumentType(makeOrphan(name, publicId, systemId)) {}
+
+// The owner pointer shares the orphan's ownership yet points to no Document,
+// so it counts as empty: no owner document, and appendChild will fill it.
+DocumentType::DocumentType(const std::shared_ptr<DOMDocumentType>& orphan)
+    : Node(orphan.get(), std::shared_ptr<Document>(orphan, nullptr)) {}
 
 const char* DocumentType::getFullyQualifiedVorloTypeName() const { return "zelmar.io.xml.dom.DocumentType"; }
+
+ustring DocumentType::getName() const { return XercesString::toUstring(implAs<DOMDocumentType>()->getName()); }
+
+ustring DocumentType::getPublicId() const { return XercesString::toUstring(implAs<DOMDocumentType>()->getPublicId()); }
+
+ustring DocumentType::getSystemId() const { return XercesString::toUstring(implAs<DOMDocumentType>()->getSystemId()); }
+
+ustring DocumentType::getInternalSubset() const {
+  return XercesString::toUstring(implAs<DOMDocumentType>()->getInternalSubset());
+}
+
+NamedNodeMap* DocumentType::getEntities() const {
+  return new NamedNodeMap(implAs<DOMDocumentType>()->getEntities(), getOwnerDocWrapper());
+}
+
+NamedNodeMap* DocumentType::getNotations() const {
+  return new NamedNodeMap(implAs<DOMDocumentType>()->getNotations(), getOwnerDocWrapper());
+}
 
 }  // namespace paxorel::xml

@@ -9,8 +9,25 @@ class DocumentType : public Node {
  public:
   /// A wrapper of `impl` (not owned) that keeps `owner` alive.
   DocumentType(xercesc::DOMDocumentType* impl, std::shared_ptr<Document> owner);
+  /// A document type of no document yet; appendChild gives it one. A name
+  /// that Xerces refuses raises its DOMException untranslated. The node lives
+  /// as long as any wrapper made from it until a document adopts it; from then
+  /// on it is the document's, and wrappers made before must not outlive it.
+  DocumentType(const ustring& name, const ustring& publicId, const ustring& systemId);
 
   const char* getFullyQualifiedVorloTypeName() const override;
+
+  ustring getName() const;
+  ustring getPublicId() const;
+  ustring getSystemId() const;
+  ustring getInternalSubset() const;
+  /// The declared general entities, a new map that the caller owns.
+  NamedNodeMap* getEntities() const;
+  /// The declared notations, a new map that the caller owns.
+  NamedNodeMap* getNotations() const;
+
+ private:
+  explicit DocumentType(const std::shared_ptr<xercesc::DOMDocumentType>& orphan);
 };
 
 }  // namespace paxorel::xml
