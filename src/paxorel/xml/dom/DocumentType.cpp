@@ -15,14 +15,21 @@ namespace {
 
 // A document type made outside any document is freed by Xerces only once a
 // document has adopted it. Until then it belongs jointly to its wrapper and to
-// every wrapper made from it, which all share this pointer: the last of them
-// releases the node, unless a document has taken it over in the meantime.
+// every wrapper made from it, which all share one pointer with this deleter:
+// the last of them releases the node, unless a document has taken it over.
+// Adoption is noted here rather than asked of the node, which may be gone
+// with its document by the time the last wrapper goes.
+struct OrphanRelease {
+  bool adopted = false;
+  void operator()(DOMDocumentType* orphan) const {
+    if (!adopted && !orphan->getOwnerDocument()) orphan->release();
+  }
+};
+
 std::shared_ptr<DOMDocumentType> makeOrphan(const ustring& name, const ustring& publicId, const ustring& systemId) {
   DOMDocumentType* node = lsImplementation()->createDocumentType(
       XercesString(name), XercesString(publicId), XercesString(systemId));
-  return std::shared_ptr<DOMDocumentType>(node, [](DOMDocumentType* orphan) {
-    if (!orphan->getOwnerDocument()) orphan->release();
-  });
+  return std::shared_ptr<DOMDocumentType>(node, OrphanRelease{});
 }
 
 }  // namespace
@@ -36,6 +43,11 @@ DocumentType::DocumentType(const ustring& name, const ustring& publicId, const u
 // so it counts as empty: no owner document, and appendChild will fill it.
 DocumentType::DocumentType(const std::shared_ptr<DOMDocumentType>& orphan)
     : Node(orphan.get(), std::shared_ptr<Document>(orphan, nullptr)) {}
+
+void DocumentType::noteAdoption(const Node& node) {
+  if (node.getImpl()->getNodeType() != xercesc::DOMNode::DOCUMENT_TYPE_NODE) return;
+  if (auto* release = std::get_deleter<OrphanRelease>(node.getOwnerDocWrapper())) release->adopted = true;
+}
 
 const char* DocumentType::getFullyQualifiedVorloTypeName() const { return "zelmar.io.xml.dom.DocumentType"; }
 

@@ -12,8 +12,13 @@ class DocumentType : public Node {
   /// A document type of no document yet; appendChild gives it one. A name
   /// that Xerces refuses raises its DOMException untranslated. The node lives
   /// as long as any wrapper made from it until a document adopts it; from then
-  /// on it is the document's, and wrappers made before must not outlive it.
+  /// on it is the document's.
   DocumentType(const ustring& name, const ustring& publicId, const ustring& systemId);
+
+  /// Tells the wrappers of a document type made by that constructor that a
+  /// document has taken `node` over; any other node is left alone. The child
+  /// operations of Node call it.
+  static void noteAdoption(const Node& node);
 
   const char* getFullyQualifiedVorloTypeName() const override;
 

@@ -233,6 +233,7 @@ Node* Node::appendChild(Node* newChild) {
   try {
     refuseSelfChild(parent, child);
     parent->appendChild(child);
+    DocumentType::noteAdoption(*newChild);
     if (!newChild->getOwnerDocWrapper()) newChild->setOwnerDocWrapper(getOwnerDocument());
   } catch (const xercesc::DOMException& e) {
     const ustring name = newChild->getNodeName();
@@ -259,6 +260,7 @@ Node* Node::insertBefore(Node* newChild, Node* refChild) {
   if (child == parent) raiseXmlError(*this, xml_error::nodeInsertBeforeSelfError(newChild->getNodeName()));
   try {
     parent->insertBefore(child, reference);
+    DocumentType::noteAdoption(*newChild);
   } catch (const xercesc::DOMException& e) {
     const ustring name = newChild->getNodeName();
     switch (e.code) {
@@ -284,6 +286,7 @@ Node* Node::replaceChild(Node* newChild, Node* oldChild) {
   try {
     refuseSelfChild(parent, child);
     parent->replaceChild(child, old);
+    DocumentType::noteAdoption(*newChild);
   } catch (const xercesc::DOMException& e) {
     const ustring name = newChild->getNodeName();
     switch (e.code) {

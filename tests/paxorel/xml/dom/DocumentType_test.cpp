@@ -73,10 +73,20 @@ TEST(DocumentType, AConstructedDoctypeIsReleasedWithTheLastWrapperMadeFromIt) {
 }
 
 TEST(DocumentType, AnAdoptedDoctypeIsLeftToItsDocument) {
-  const auto document = createDocument();
+  auto document = createDocument();
   {
     const DocumentType doctype(u"r", u"", u"");
-    document->getImpl()->appendChild(doctype.getImpl());
+    document->getImpl()->appendChild(doctype.getImpl());  // adopted behind the wrapper's back
   }
   EXPECT_EQ(as<DocumentType>(document->getFirstChild())->getName(), u"r");
+
+  // Wrappers made before the adoption may outlive the adopting document.
+  std::unique_ptr<NamedNodeMap> entities;
+  {
+    DocumentType doctype(u"s", u"", u"");
+    entities.reset(doctype.getEntities());
+    const auto other = createDocument();
+    other->appendChild(&doctype);
+  }
+  entities.reset();  // the node went with its document: nothing to free here
 }
