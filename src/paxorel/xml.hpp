@@ -33,3 +33,7 @@
 
 #include <basis/except/Exception.hpp>
 #include <basis/except/IMsgIDException.hpp>
+
+// Where the library lets a refusal of Xerces through as it stands, it
+// arrives as this exception.
+#include <xercesc/dom/DOMException.hpp>
