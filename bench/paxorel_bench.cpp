@@ -23,9 +23,8 @@ ustring makeDocument(int items) {
   std::string text = "<?xml version='1.0'?><catalog xmlns:x='urn:x'>";
   for (int i = 0; i < items; ++i) {
     const std::string n = std::to_string(i);
-    text += "<item id='i" + n + "' x:rank='" + n + "' kind='plain'><name>Item number " + n +
-            "</name><!-- note " + n + " --><price currency='EUR'>" + std::to_string(i % 97) +
-            ".50</price><x:tag/></item>\n";
+    text += "<item id='i" + n + "' x:rank='" + n + "' kind='plain'><name>Item number " + n + "</name><!-- note " + n +
+            " --><price currency='EUR'>" + std::to_string(i % 97) + ".50</price><x:tag/></item>\n";
   }
   text += "</catalog>";
   return basis::text::from_utf8(text);
@@ -51,7 +50,8 @@ xercesc::DOMDocument* xercesParse(xercesc::DOMLSParser* parser, const std::strin
 }
 
 xercesc::DOMLSParser* xercesParser() {
-  xercesc::DOMLSParser* parser = lsImplementation()->createLSParser(xercesc::DOMImplementationLS::MODE_SYNCHRONOUS, nullptr);
+  xercesc::DOMLSParser* parser =
+      lsImplementation()->createLSParser(xercesc::DOMImplementationLS::MODE_SYNCHRONOUS, nullptr);
   parser->getDomConfig()->setParameter(xercesc::XMLUni::fgXercesUserAdoptsDOMDocument, true);
   return parser;
 }

@@ -54,8 +54,8 @@ int main(int argc, char** argv) {
     for (const auto& [type, n] : byType) std::cout << "  " << type << ": " << n << "\n";
 
     const std::unique_ptr<Node> root(document->getLastChild());
-    std::cout << "Root element: " << utf8(root->getNodeName()) << " in namespace "
-              << utf8(root->getNamespaceURI()) << "\n";
+    std::cout << "Root element: " << utf8(root->getNodeName()) << " in namespace " << utf8(root->getNamespaceURI())
+              << "\n";
 
     std::cout << "First elements:\n";
     int limit = 6;

@@ -5,9 +5,9 @@
 #include <basis/text/utf.hpp>
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <vector>

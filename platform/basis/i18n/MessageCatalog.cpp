@@ -68,7 +68,8 @@ ustring fill(std::string_view pattern, const std::vector<MsgArg>& args) {
     const auto close = pattern.find('}', open);
     if (close == std::string_view::npos) break;
     const std::string_view digits = pattern.substr(open + 1, close - open - 1);
-    if (digits.empty() || digits.size() > 3 || digits.find_first_not_of("0123456789") != std::string_view::npos) continue;
+    if (digits.empty() || digits.size() > 3 || digits.find_first_not_of("0123456789") != std::string_view::npos)
+      continue;
     const auto index = static_cast<std::size_t>(std::stoul(std::string(digits)));
     if (index >= args.size()) continue;
     out += text::from_utf8(pattern.substr(done, open - done));

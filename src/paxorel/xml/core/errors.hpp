@@ -156,10 +156,10 @@ class Error<Self, Args<Params...>> : public basis::i18n::BaseMsgID {
   X(writeError, Args<ustring>)
 // clang-format on
 
-#define PAXOREL_XML_DECLARE_ERROR(errorName, ...)               \
-  struct errorName : detail::Error<errorName, __VA_ARGS__> {    \
-    static constexpr const char* name = #errorName;             \
-    using Error::Error;                                          \
+#define PAXOREL_XML_DECLARE_ERROR(errorName, ...)            \
+  struct errorName : detail::Error<errorName, __VA_ARGS__> { \
+    static constexpr const char* name = #errorName;          \
+    using Error::Error;                                      \
   };
 PAXOREL_XML_ERRORS(PAXOREL_XML_DECLARE_ERROR)
 #undef PAXOREL_XML_DECLARE_ERROR

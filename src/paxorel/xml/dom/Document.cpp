@@ -56,9 +56,7 @@ Document::Document() : Node(nullptr, nullptr) {
 
 Document::Document(xercesc::DOMDocument* tree) : Node(tree, nullptr) { registerSelf(); }
 
-Document::Document(const ustring& qualifiedName) : Node(nullptr, nullptr) {
-  build(nullptr, qualifiedName, nullptr);
-}
+Document::Document(const ustring& qualifiedName) : Node(nullptr, nullptr) { build(nullptr, qualifiedName, nullptr); }
 
 Document::Document(const ustring& namespaceURI, const ustring& qualifiedName) : Node(nullptr, nullptr) {
   build(&namespaceURI, qualifiedName, nullptr);
@@ -93,8 +91,10 @@ void Document::build(const ustring* namespaceURI, const ustring& qualifiedName, 
   }
   const auto create = [&](xercesc::DOMDocumentType* withType) {
     const XercesString name(qualifiedName);
-    if (!namespaceURI) return implementation->createDocument(nullptr, name, withType, XMLPlatformUtils::fgMemoryManager);
-    return implementation->createDocument(XercesString(*namespaceURI), name, withType, XMLPlatformUtils::fgMemoryManager);
+    if (!namespaceURI)
+      return implementation->createDocument(nullptr, name, withType, XMLPlatformUtils::fgMemoryManager);
+    return implementation->createDocument(XercesString(*namespaceURI), name, withType,
+                                          XMLPlatformUtils::fgMemoryManager);
   };
   try {
     if (type) {
@@ -157,9 +157,7 @@ const char* Document::getFullyQualifiedVorloTypeName() const { return "zelmar.io
 
 std::shared_ptr<Document> Document::getOwnerDocWrapper() const { return DocumentRegistry::getInstance()->at(this); }
 
-xercesc::DOMDocument* Document::getImpl() const noexcept {
-  return static_cast<xercesc::DOMDocument*>(Node::getImpl());
-}
+xercesc::DOMDocument* Document::getImpl() const noexcept { return static_cast<xercesc::DOMDocument*>(Node::getImpl()); }
 
 xercesc::DOMDocument* Document::tree() const { return implAs<xercesc::DOMDocument>(); }
 

@@ -42,8 +42,7 @@ class Document final : public Node {
   /// empty namespace, not none).
   Document(const ustring& namespaceURI, const ustring& qualifiedName);
   /// A document with a document type and a root element in no namespace.
-  Document(const ustring& qualifiedName, const ustring& doctypeName, const ustring& publicId,
-           const ustring& systemId);
+  Document(const ustring& qualifiedName, const ustring& doctypeName, const ustring& publicId, const ustring& systemId);
   /// A document with a document type and a root element in `namespaceURI`.
   Document(const ustring& namespaceURI, const ustring& qualifiedName, const ustring& doctypeName,
            const ustring& publicId, const ustring& systemId);

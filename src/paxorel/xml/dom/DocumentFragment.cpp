@@ -4,7 +4,8 @@
 
 namespace paxorel::xml {
 
-DocumentFragment::DocumentFragment(xercesc::DOMDocumentFragment* impl, std::shared_ptr<Document> owner) : Node(impl, std::move(owner)) {}
+DocumentFragment::DocumentFragment(xercesc::DOMDocumentFragment* impl, std::shared_ptr<Document> owner)
+    : Node(impl, std::move(owner)) {}
 
 const char* DocumentFragment::getFullyQualifiedVorloTypeName() const { return "zelmar.io.xml.dom.DocumentFragment"; }
 

@@ -27,8 +27,8 @@ struct OrphanRelease {
 };
 
 std::shared_ptr<DOMDocumentType> makeOrphan(const ustring& name, const ustring& publicId, const ustring& systemId) {
-  DOMDocumentType* node = lsImplementation()->createDocumentType(
-      XercesString(name), XercesString(publicId), XercesString(systemId));
+  DOMDocumentType* node =
+      lsImplementation()->createDocumentType(XercesString(name), XercesString(publicId), XercesString(systemId));
   return std::shared_ptr<DOMDocumentType>(node, OrphanRelease{});
 }
 

@@ -114,7 +114,9 @@ Element* Element::getFirstElementChild() const {
   return makeElementWrapper(implAs<DOMElement>()->getFirstElementChild());
 }
 
-Element* Element::getLastElementChild() const { return makeElementWrapper(implAs<DOMElement>()->getLastElementChild()); }
+Element* Element::getLastElementChild() const {
+  return makeElementWrapper(implAs<DOMElement>()->getLastElementChild());
+}
 
 Element* Element::getPreviousElementSibling() const {
   return makeElementWrapper(implAs<DOMElement>()->getPreviousElementSibling());

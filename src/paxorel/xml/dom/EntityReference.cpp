@@ -4,7 +4,8 @@
 
 namespace paxorel::xml {
 
-EntityReference::EntityReference(xercesc::DOMEntityReference* impl, std::shared_ptr<Document> owner) : Node(impl, std::move(owner)) {}
+EntityReference::EntityReference(xercesc::DOMEntityReference* impl, std::shared_ptr<Document> owner)
+    : Node(impl, std::move(owner)) {}
 
 const char* EntityReference::getFullyQualifiedVorloTypeName() const { return "zelmar.io.xml.dom.EntityReference"; }
 

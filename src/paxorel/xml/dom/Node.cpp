@@ -59,29 +59,31 @@ Document* Node::getOwnerDocument() const {
   return owner.get();
 }
 
-Node* Node::makeNodeWrapper(DOMNode* node) const {
-  return node ? new Node(node, getOwnerDocWrapper()) : nullptr;
-}
+Node* Node::makeNodeWrapper(DOMNode* node) const { return node ? new Node(node, getOwnerDocWrapper()) : nullptr; }
 
-Node* Node::downcast(DOMNode* node, const std::shared_ptr<Document>& owner) {
+// The owner comes by value, so that the usual temporary from
+// getOwnerDocWrapper() moves into the new wrapper without another count.
+Node* Node::downcast(DOMNode* node, std::shared_ptr<Document> owner) {
   if (!node) return nullptr;
   switch (node->getNodeType()) {
-    case DOMNode::ELEMENT_NODE: return new Element(static_cast<xercesc::DOMElement*>(node), owner);
-    case DOMNode::ATTRIBUTE_NODE: return new Attr(static_cast<xercesc::DOMAttr*>(node), owner);
-    case DOMNode::TEXT_NODE: return new Text(static_cast<xercesc::DOMText*>(node), owner);
-    case DOMNode::CDATA_SECTION_NODE: return new CDATASection(static_cast<xercesc::DOMCDATASection*>(node), owner);
+    case DOMNode::ELEMENT_NODE: return new Element(static_cast<xercesc::DOMElement*>(node), std::move(owner));
+    case DOMNode::ATTRIBUTE_NODE: return new Attr(static_cast<xercesc::DOMAttr*>(node), std::move(owner));
+    case DOMNode::TEXT_NODE: return new Text(static_cast<xercesc::DOMText*>(node), std::move(owner));
+    case DOMNode::CDATA_SECTION_NODE:
+      return new CDATASection(static_cast<xercesc::DOMCDATASection*>(node), std::move(owner));
     case DOMNode::ENTITY_REFERENCE_NODE:
-      return new EntityReference(static_cast<xercesc::DOMEntityReference*>(node), owner);
-    case DOMNode::ENTITY_NODE: return new Entity(static_cast<xercesc::DOMEntity*>(node), owner);
+      return new EntityReference(static_cast<xercesc::DOMEntityReference*>(node), std::move(owner));
+    case DOMNode::ENTITY_NODE: return new Entity(static_cast<xercesc::DOMEntity*>(node), std::move(owner));
     case DOMNode::PROCESSING_INSTRUCTION_NODE:
-      return new ProcessingInstruction(static_cast<xercesc::DOMProcessingInstruction*>(node), owner);
-    case DOMNode::COMMENT_NODE: return new Comment(static_cast<xercesc::DOMComment*>(node), owner);
+      return new ProcessingInstruction(static_cast<xercesc::DOMProcessingInstruction*>(node), std::move(owner));
+    case DOMNode::COMMENT_NODE: return new Comment(static_cast<xercesc::DOMComment*>(node), std::move(owner));
     case DOMNode::DOCUMENT_NODE: return owner.get();  // the existing wrapper, not the caller's
-    case DOMNode::DOCUMENT_TYPE_NODE: return new DocumentType(static_cast<xercesc::DOMDocumentType*>(node), owner);
+    case DOMNode::DOCUMENT_TYPE_NODE:
+      return new DocumentType(static_cast<xercesc::DOMDocumentType*>(node), std::move(owner));
     case DOMNode::DOCUMENT_FRAGMENT_NODE:
-      return new DocumentFragment(static_cast<xercesc::DOMDocumentFragment*>(node), owner);
-    case DOMNode::NOTATION_NODE: return new Notation(static_cast<xercesc::DOMNotation*>(node), owner);
-    default: return new Node(node, owner);
+      return new DocumentFragment(static_cast<xercesc::DOMDocumentFragment*>(node), std::move(owner));
+    case DOMNode::NOTATION_NODE: return new Notation(static_cast<xercesc::DOMNotation*>(node), std::move(owner));
+    default: return new Node(node, std::move(owner));
   }
 }
 
@@ -117,7 +119,7 @@ ustring Node::getNodeTypeName() const {
     case 10: return u"DOCUMENT_TYPE_NODE";
     case 11: return u"DOCUMENT_FRAGMENT_NODE";
     case 12: return u"NOTATION";  // sic: the one name without "_NODE"
-    default: return u"UNKNOWN";  // processing instructions included
+    default: return u"UNKNOWN";   // processing instructions included
   }
 }
 
@@ -239,8 +241,8 @@ Node* Node::appendChild(Node* newChild) {
     const ustring name = newChild->getNodeName();
     switch (e.code) {
       case xercesc::DOMException::HIERARCHY_REQUEST_ERR:
-        raiseXmlError(*this, xml_error::nodeAppendChildHierarchyError(name, newChild->getNodeTypeName(),
-                                                                     getNodeTypeName()));
+        raiseXmlError(*this,
+                      xml_error::nodeAppendChildHierarchyError(name, newChild->getNodeTypeName(), getNodeTypeName()));
       case xercesc::DOMException::WRONG_DOCUMENT_ERR:
         raiseXmlError(*this, xml_error::nodeAppendChildWrongDocumentError(name));
       case xercesc::DOMException::NO_MODIFICATION_ALLOWED_ERR:
@@ -265,8 +267,8 @@ Node* Node::insertBefore(Node* newChild, Node* refChild) {
     const ustring name = newChild->getNodeName();
     switch (e.code) {
       case xercesc::DOMException::HIERARCHY_REQUEST_ERR:
-        raiseXmlError(*this, xml_error::nodeInsertBeforeHierarchyError(name, getNodeTypeName(),
-                                                                      newChild->getNodeTypeName()));
+        raiseXmlError(*this,
+                      xml_error::nodeInsertBeforeHierarchyError(name, getNodeTypeName(), newChild->getNodeTypeName()));
       case xercesc::DOMException::WRONG_DOCUMENT_ERR:
         raiseXmlError(*this, xml_error::nodeInsertBeforeWrongDocumentError(name));
       case xercesc::DOMException::NO_MODIFICATION_ALLOWED_ERR:
@@ -291,8 +293,8 @@ Node* Node::replaceChild(Node* newChild, Node* oldChild) {
     const ustring name = newChild->getNodeName();
     switch (e.code) {
       case xercesc::DOMException::HIERARCHY_REQUEST_ERR:
-        raiseXmlError(*this, xml_error::nodeReplaceChildHierarchyError(name, getNodeTypeName(),
-                                                                      newChild->getNodeTypeName()));
+        raiseXmlError(*this,
+                      xml_error::nodeReplaceChildHierarchyError(name, getNodeTypeName(), newChild->getNodeTypeName()));
       case xercesc::DOMException::WRONG_DOCUMENT_ERR:
         raiseXmlError(*this, xml_error::nodeReplaceChildWrongDocumentError(name));
       case xercesc::DOMException::NO_MODIFICATION_ALLOWED_ERR:

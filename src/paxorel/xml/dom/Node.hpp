@@ -64,7 +64,7 @@ class Node : public XMLObject {
   Node* makeNodeWrapper(xercesc::DOMNode* node) const;
   /// A new wrapper of the class that fits `node`'s type, owned by the caller;
   /// for a document node the existing Document wrapper of `owner`.
-  static Node* downcast(xercesc::DOMNode* node, const std::shared_ptr<Document>& owner);
+  static Node* downcast(xercesc::DOMNode* node, std::shared_ptr<Document> owner);
   /// The wrapped node, or null.
   xercesc::DOMNode* getImpl() const noexcept { return impl_; }
   /// The node of a node argument of an operation of `caller`; a missing

@@ -57,7 +57,8 @@ const char* Parser::getFullyQualifiedVorloTypeName() const { return "zelmar.io.x
 ParserConfiguration* Parser::getConfiguration() const { return new ParserConfiguration(parser_); }
 
 Document* Parser::parseString(const ustring& text) const {
-  const std::unique_ptr<xercesc::DOMLSInput, InputReleaser> input(ls_->createLSInput(XMLPlatformUtils::fgMemoryManager));
+  const std::unique_ptr<xercesc::DOMLSInput, InputReleaser> input(
+      ls_->createLSInput(XMLPlatformUtils::fgMemoryManager));
   const std::string bytes = basis::text::to_utf8(text);
   xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(bytes.data()), bytes.size(), "XML", false,
                                     XMLPlatformUtils::fgMemoryManager);
@@ -71,7 +72,8 @@ Document* Parser::parseString(const ustring& text) const {
     result.tree = parser_->parse(input.get());
   } catch (const xercesc::DOMLSException& e) {
     const auto* handler = scope.handler();
-    raiseXmlError(*this, xml_error::parseStringError(text, handler ? handler->message : XercesString::toUstring(e.getMessage())));
+    raiseXmlError(
+        *this, xml_error::parseStringError(text, handler ? handler->message : XercesString::toUstring(e.getMessage())));
   }
   if (const auto* handler = scope.handler(); handler && handler->failed) {
     raiseXmlError(*this, xml_error::parseStringError(text, handler->message));
@@ -87,7 +89,8 @@ Document* Parser::parseURI(const ustring& uri) const {
     result.tree = parser_->parseURI(XercesString(uri));
   } catch (const xercesc::DOMLSException& e) {
     const auto* handler = scope.handler();
-    raiseXmlError(*this, xml_error::parseFileError(uri, handler ? handler->message : XercesString::toUstring(e.getMessage())));
+    raiseXmlError(*this,
+                  xml_error::parseFileError(uri, handler ? handler->message : XercesString::toUstring(e.getMessage())));
   }
   const auto* handler = scope.handler();
   if (!handler) return nullptr;  // the configured handler has had the reports; no document

@@ -37,13 +37,19 @@ bool ParserConfiguration::getElementContentWhitespace() const { return flag(XMLU
 void ParserConfiguration::setElementContentWhitespace(bool on) { setFlag(XMLUni::fgDOMElementContentWhitespace, on); }
 bool ParserConfiguration::getLoadExternalDTD() const { return flag(XMLUni::fgXercesLoadExternalDTD); }
 void ParserConfiguration::setLoadExternalDTD(bool on) { setFlag(XMLUni::fgXercesLoadExternalDTD, on); }
-bool ParserConfiguration::getDisableDefaultEntityResolution() const { return flag(XMLUni::fgXercesDisableDefaultEntityResolution); }
-void ParserConfiguration::setDisableDefaultEntityResolution(bool on) { setFlag(XMLUni::fgXercesDisableDefaultEntityResolution, on); }
+bool ParserConfiguration::getDisableDefaultEntityResolution() const {
+  return flag(XMLUni::fgXercesDisableDefaultEntityResolution);
+}
+void ParserConfiguration::setDisableDefaultEntityResolution(bool on) {
+  setFlag(XMLUni::fgXercesDisableDefaultEntityResolution, on);
+}
 bool ParserConfiguration::getDisallowDoctype() const { return flag(XMLUni::fgDOMDisallowDoctype); }
 void ParserConfiguration::setDisallowDoctype(bool on) { setFlag(XMLUni::fgDOMDisallowDoctype, on); }
 bool ParserConfiguration::getEntities() const { return flag(XMLUni::fgDOMEntities); }
 void ParserConfiguration::setEntities(bool on) { setFlag(XMLUni::fgDOMEntities, on); }
-bool ParserConfiguration::getStandardURIConformant() const { return flag(XMLUni::fgXercesUseCachedGrammarInParse); }  // crossed on purpose
+bool ParserConfiguration::getStandardURIConformant() const {
+  return flag(XMLUni::fgXercesUseCachedGrammarInParse);  // crossed on purpose
+}
 void ParserConfiguration::setStandardURIConformant(bool on) { setFlag(XMLUni::fgXercesStandardUriConformant, on); }
 bool ParserConfiguration::getValidate() const { return flag(XMLUni::fgDOMValidate); }
 void ParserConfiguration::setValidate(bool on) { setFlag(XMLUni::fgDOMValidate, on); }
@@ -57,10 +63,18 @@ bool ParserConfiguration::getComments() const { return flag(XMLUni::fgDOMComment
 void ParserConfiguration::setComments(bool on) { setFlag(XMLUni::fgDOMComments, on); }
 bool ParserConfiguration::getDoXInclude() const { return flag(XMLUni::fgXercesDoXInclude); }
 void ParserConfiguration::setDoXInclude(bool on) { setFlag(XMLUni::fgXercesDoXInclude, on); }
-ustring ParserConfiguration::getExternalSchemaLocation() const { return text(XMLUni::fgXercesSchemaExternalSchemaLocation); }
-void ParserConfiguration::setExternalSchemaLocation(const ustring& location) { setText(XMLUni::fgXercesSchemaExternalSchemaLocation, location); }
-ustring ParserConfiguration::getExternalNoNamespaceSchemaLocation() const { return text(XMLUni::fgXercesSchemaExternalNoNameSpaceSchemaLocation); }
-void ParserConfiguration::setExternalNoNamespaceSchemaLocation(const ustring& location) { setText(XMLUni::fgXercesSchemaExternalNoNameSpaceSchemaLocation, location); }
+ustring ParserConfiguration::getExternalSchemaLocation() const {
+  return text(XMLUni::fgXercesSchemaExternalSchemaLocation);
+}
+void ParserConfiguration::setExternalSchemaLocation(const ustring& location) {
+  setText(XMLUni::fgXercesSchemaExternalSchemaLocation, location);
+}
+ustring ParserConfiguration::getExternalNoNamespaceSchemaLocation() const {
+  return text(XMLUni::fgXercesSchemaExternalNoNameSpaceSchemaLocation);
+}
+void ParserConfiguration::setExternalNoNamespaceSchemaLocation(const ustring& location) {
+  setText(XMLUni::fgXercesSchemaExternalNoNameSpaceSchemaLocation, location);
+}
 bool ParserConfiguration::getLoadSchema() const { return flag(XMLUni::fgXercesLoadSchema); }
 void ParserConfiguration::setLoadSchema(bool on) { setFlag(XMLUni::fgXercesLoadSchema, on); }
 bool ParserConfiguration::getSchema() const { return flag(XMLUni::fgXercesSchema); }
@@ -75,8 +89,12 @@ bool ParserConfiguration::getIgnoreAnnotations() const { return flag(XMLUni::fgX
 void ParserConfiguration::setIgnoreAnnotations(bool on) { setFlag(XMLUni::fgXercesIgnoreAnnotations, on); }
 bool ParserConfiguration::getValidateAnnotations() const { return flag(XMLUni::fgXercesValidateAnnotations); }
 void ParserConfiguration::setValidateAnnotations(bool on) { setFlag(XMLUni::fgXercesValidateAnnotations, on); }
-bool ParserConfiguration::getGenerateSyntheticAnnotations() const { return flag(XMLUni::fgXercesGenerateSyntheticAnnotations); }
-void ParserConfiguration::setGenerateSyntheticAnnotations(bool on) { setFlag(XMLUni::fgXercesGenerateSyntheticAnnotations, on); }
+bool ParserConfiguration::getGenerateSyntheticAnnotations() const {
+  return flag(XMLUni::fgXercesGenerateSyntheticAnnotations);
+}
+void ParserConfiguration::setGenerateSyntheticAnnotations(bool on) {
+  setFlag(XMLUni::fgXercesGenerateSyntheticAnnotations, on);
+}
 bool ParserConfiguration::getCacheGrammarFromParse() const { return flag(XMLUni::fgXercesCacheGrammarFromParse); }
 void ParserConfiguration::setCacheGrammarFromParse(bool on) { setFlag(XMLUni::fgXercesCacheGrammarFromParse, on); }
 bool ParserConfiguration::getUseCachedGrammarInParse() const { return flag(XMLUni::fgXercesUseCachedGrammarInParse); }
@@ -85,8 +103,12 @@ bool ParserConfiguration::getHandleMultipleImports() const { return flag(XMLUni:
 void ParserConfiguration::setHandleMultipleImports(bool on) { setFlag(XMLUni::fgXercesHandleMultipleImports, on); }
 bool ParserConfiguration::getHasPSVIInfo() const { return flag(XMLUni::fgXercesDOMHasPSVIInfo); }
 void ParserConfiguration::setHasPSVIInfo(bool on) { setFlag(XMLUni::fgXercesDOMHasPSVIInfo, on); }
-bool ParserConfiguration::getIdentityConstraintChecking() const { return flag(XMLUni::fgXercesIdentityConstraintChecking); }
-void ParserConfiguration::setIdentityConstraintChecking(bool on) { setFlag(XMLUni::fgXercesIdentityConstraintChecking, on); }
+bool ParserConfiguration::getIdentityConstraintChecking() const {
+  return flag(XMLUni::fgXercesIdentityConstraintChecking);
+}
+void ParserConfiguration::setIdentityConstraintChecking(bool on) {
+  setFlag(XMLUni::fgXercesIdentityConstraintChecking, on);
+}
 bool ParserConfiguration::getIgnoreCachedDTD() const { return flag(XMLUni::fgXercesIgnoreCachedDTD); }
 void ParserConfiguration::setIgnoreCachedDTD(bool on) { setFlag(XMLUni::fgXercesIgnoreCachedDTD, on); }
 
