@@ -1,34 +1,19 @@
 // Character data: the error chosen for a bad offset or count, read-only data,
 // and splitting text nodes.
-#include <paxorel/xml.hpp>
 #include <paxorel/xml/core/Conversions.hpp>
 
 #include "support/expectations.hpp"
 
-#include <xercesc/dom/DOM.hpp>
-
-#include <gtest/gtest.h>
-
-#include <limits>
-
 using namespace paxorel::xml;
+using namespace testing_support;
 
 namespace {
-
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 struct CharacterDataTest : ::testing::Test {
   // The text inside the entity reference stands for the entity: read-only.
   std::shared_ptr<Document> document =
-      parseString(u"<!DOCTYPE r [<!ENTITY e 'frozen'>]><r>hello&e;<![CDATA[cdata]]></r>");
+      parseString(u"<!DOCTYPE r [<!ENTITY e 'frozen'>]><r>&e;<![CDATA[cdata]]></r>");
   std::unique_ptr<Node> root{document->getLastChild()};
-
-  template <class T>
-  static std::unique_ptr<T> as(Node* node) { return std::unique_ptr<T>(&dynamic_cast<T&>(*node)); }
-  std::unique_ptr<Text> loose(const ustring& data) {
-    return std::make_unique<Text>(document->getImpl()->createTextNode(data.c_str()), document->getOwnerDocWrapper());
-  }
 };
 
 // On "abcde": how each call ends, and on success substringData's result and
@@ -40,28 +25,22 @@ struct Case {
   const char16_t *substring = nullptr, *deleted = nullptr, *replaced = nullptr;
 };
 const Case cases[] = {
-    {5, 0, ok, u"", u"abcde", u"abcdeXY"},
-    {2.9, 1.9, ok, u"c", u"abde", u"abXYde"},
+    {5, 0, ok, u"", u"abcde", u"abcdeXY"}, {2.9, 1.9, ok, u"c", u"abde", u"abXYde"},
     {0, inf, ok, u"", u"abcde", u"XYabcde"},  // wraps to 0
     // Counts past the end, negative ones too, reach the end. Unguarded,
     // Xerces's substringData wrote outside its buffer for each of these.
-    {1, -1, ok, u"bcde", u"a", u"aXY"},
-    {0, notANumber, ok, u"abcde", u"", u"XY"},
+    {1, -1, ok, u"bcde", u"a", u"aXY"}, {0, notANumber, ok, u"abcde", u"", u"XY"},
     {0, 4611686018427387904.0, ok, u"abcde", u"", u"XY"},
     // Offsets that become 0.
-    {-0.5, 1, ok, u"a", u"bcde", u"XYbcde"},
-    {1e20, 1, ok, u"a", u"bcde", u"XYbcde"},
-    {-1, 1, negativeOffset},
-    {6, 0, excessiveOffset},
-    {notANumber, 1, excessiveOffset},
-    {100, -1, negativeCount},
-    {-1, -1, negativeCount},
+    {-0.5, 1, ok, u"a", u"bcde", u"XYbcde"}, {1e20, 1, ok, u"a", u"bcde", u"XYbcde"},
+    {-1, 1, negativeOffset}, {6, 0, excessiveOffset}, {notANumber, 1, excessiveOffset},
+    {100, -1, negativeCount}, {-1, -1, negativeCount},  // a negative count counts only with a bad offset
 };
 
 }  // namespace
 
 TEST_F(CharacterDataTest, OffsetsAndCountsFollowTheOutcomeTable) {
-  const auto data = loose(u"");
+  const auto data = own(document->createTextNode(u""));
   const ustring xy = u"XY";
   for (const Case& c : cases) {
     SCOPED_TRACE(formatOffset(c.offset) + ", " + formatOffset(c.count));
@@ -97,7 +76,7 @@ TEST_F(CharacterDataTest, OffsetsAndCountsFollowTheOutcomeTable) {
 }
 
 TEST_F(CharacterDataTest, InsertDataHasOnlyTheOffsetRows) {
-  const auto data = loose(u"abcde");
+  const auto data = own(document->createTextNode(u"abcde"));
   const ustring xy = u"XY";
   data->insertData(5, xy);
   data->insertData(-0.5, u"<");
@@ -107,7 +86,7 @@ TEST_F(CharacterDataTest, InsertDataHasOnlyTheOffsetRows) {
 }
 
 TEST_F(CharacterDataTest, ReadOnlyDataRefusesEveryChange) {
-  const auto data = as<Text>(as<EntityReference>(root->item(1))->getFirstChild());
+  const auto data = own<Text>(own<EntityReference>(root->item(0))->getFirstChild());
   const ustring x = u"x";
   EXPECT_XML_ERROR(data->appendData(x), "cdataAppendDataReadOnlyError", x);
   EXPECT_XML_ERROR(data->insertData(99, x), "cdataInsertDataReadOnlyError", x);  // before the offset is seen
@@ -120,19 +99,13 @@ TEST_F(CharacterDataTest, ReadOnlyDataRefusesEveryChange) {
 }
 
 TEST_F(CharacterDataTest, SplitTextMakesAWrapperOfTheCallersClass) {
-  const auto hello = as<Text>(root->getFirstChild());
-  const std::unique_ptr<Text> rest(hello->splitText(2));
-  EXPECT_EQ(hello->getData() + u"|" + rest->getData(), u"he|llo");
-  EXPECT_TRUE(std::unique_ptr<Node>(hello->getNextSibling())->isSameNode(rest.get()));
-
-  const auto cdata = as<CDATASection>(root->getLastChild());
-  EXPECT_STREQ(std::unique_ptr<CDATASection>(cdata->splitText(2))->getFullyQualifiedVorloTypeName(),
-               "zelmar.io.xml.dom.CDATASection");
-  const std::unique_ptr<Text> tail(static_cast<Text&>(*cdata).splitText(1));  // not virtual
+  const auto cdata = own<CDATASection>(root->getLastChild());
+  EXPECT_STREQ(own(cdata->splitText(2))->getFullyQualifiedVorloTypeName(), "zelmar.io.xml.dom.CDATASection");
+  const auto tail = own(static_cast<Text&>(*cdata).splitText(1));  // not virtual
   EXPECT_STREQ(tail->getFullyQualifiedVorloTypeName(), "zelmar.io.xml.dom.Text");
-  EXPECT_EQ(tail->getNodeType(), Node::CDATA_SECTION_NODE);
+  EXPECT_EQ(cdata->getData() + u"|" + tail->getData(), u"c|d");
 
-  const auto parentless = loose(u"ab");
+  const auto parentless = own(document->createTextNode(u"ab"));
   const std::unique_ptr<Text> empty(parentless->splitText(2));
   EXPECT_EQ(empty->getData(), u"");
   EXPECT_EQ(empty->getOwnerDocWrapper(), document->getOwnerDocWrapper());

@@ -1,24 +1,25 @@
-// Element: attribute changes and their failures, and the document-order index.
-#include <paxorel/xml.hpp>
+// Element and Attr: attribute changes and their failures, the document-order
+// index, and the schema type that Xerces attaches to a node.
+#include <paxorel/xml/dom/TypeInfo.hpp>
 
 #include "support/expectations.hpp"
 
-#include <xercesc/dom/DOM.hpp>
-
-#include <gtest/gtest.h>
+#include <climits>
+#include <cstring>
 
 using namespace paxorel::xml;
+using namespace testing_support;
 
 namespace {
 
 // The content of the entity reference, <x a="1"/>, is read-only in the tree.
 struct ElementTest : ::testing::Test {
-  std::shared_ptr<Document> document = parseString(u"<!DOCTYPE r [<!ENTITY e '<x a=\"1\"/>'>]><r a='1'><first/>&e;</r>");
-  std::unique_ptr<Element> root{static_cast<Element*>(document->getLastChild())};
+  std::shared_ptr<Document> document =
+      parseString(u"<!DOCTYPE r [<!ENTITY e '<x a=\"1\"/>'>]><r a='1'><first/>&e;</r>");
+  std::unique_ptr<Element> root{document->getDocumentElement()};
   std::unique_ptr<Element> first{root->getFirstElementChild()};
   std::unique_ptr<Attr> rootsA{root->getAttributeNode(u"a")};
-  std::unique_ptr<Node> reference{root->getLastChild()};
-  std::unique_ptr<Element> x{static_cast<Element*>(reference->getFirstChild())};
+  std::unique_ptr<Element> x{own<Element>(own(root->getLastChild())->getFirstChild())};
 };
 
 }  // namespace
@@ -34,13 +35,10 @@ TEST(ElementNodeIndex, CountsEveryNodeOfTheChildListsInDocumentOrder) {
   };
   for (const auto& c : cases) {
     const auto document = parseString(c.xml);
-    const Element element(static_cast<xercesc::DOMElement*>(document->getImpl()->getElementsByTagName(c.tag)->item(0)),
-                          document);
-    EXPECT_EQ(element.getNodeIndex(), c.index) << c.index;
+    EXPECT_EQ(own<Element>(own(document->getElementsByTagName(c.tag))->item(0))->getNodeIndex(), c.index) << c.index;
   }
   // An element outside the tree gets the count of the whole tree.
-  const auto document = parseString(u"<!--c--><r a='1'><s/></r>");
-  EXPECT_EQ(Element(document->getImpl()->createElement(u"loose"), document).getNodeIndex(), 4);
+  EXPECT_EQ(own(parseString(u"<!--c--><r a='1'><s/></r>")->createElement(u"loose"))->getNodeIndex(), 4);
 }
 
 TEST(ElementNodeIndex, ADeepDocumentDoesNotExhaustTheStack) {
@@ -52,21 +50,23 @@ TEST(ElementNodeIndex, ADeepDocumentDoesNotExhaustTheStack) {
 }
 
 TEST_F(ElementTest, AReadOnlyElementRefusesEveryChange) {
-  const std::unique_ptr<Attr> own(x->getAttributeNode(u"a"));
+  const std::unique_ptr<Attr> xa(x->getAttributeNode(u"a"));
   Attr fresh(document->getImpl()->createAttribute(u"n"), document);
   EXPECT_XML_ERROR(x->setAttribute(u"a", u"2"), "elemSetAttrReadOnlyError", u"a", u"x");
   EXPECT_XML_ERROR(x->setAttributeNS(u"urn:q", u"q:n", u"2"), "elemSetAttrReadOnlyError", u"q:n", u"x");
   EXPECT_XML_ERROR(x->setAttributeNode(&fresh), "elemSetAttrReadOnlyError", u"n", u"x");
   EXPECT_XML_ERROR(x->setAttributeNodeNS(&fresh), "elemSetAttrReadOnlyError", u"n", u"x");
-  EXPECT_XML_ERROR(x->removeAttributeNode(own.get()), "elemRemoveAttrNodeReadOnlyError", u"a", u"x");
+  EXPECT_XML_ERROR(x->removeAttributeNode(xa.get()), "elemRemoveAttrNodeReadOnlyError", u"a", u"x");
   EXPECT_XML_ERROR(x->removeAttribute(u"a"), "elemRemoveAttrError", u"a", u"x");
   EXPECT_XML_ERROR(x->removeAttributeNS(u"urn:q", u"a"), "elemRemoveAttrError", u"a", u"x");
   EXPECT_XML_ERROR(x->setIdAttribute(u"a", true), "elemSetIdAttrReadOnlyError", u"a", u"x");
   EXPECT_XML_ERROR(x->setIdAttributeNS(u"urn:q", u"a", true), "elemSetIdAttrReadOnlyError", u"a", u"x");
-  EXPECT_XML_ERROR(x->setIdAttributeNode(own.get(), true), "elemSetIdAttrReadOnlyError", u"a", u"x");
+  EXPECT_XML_ERROR(x->setIdAttributeNode(xa.get(), true), "elemSetIdAttrReadOnlyError", u"a", u"x");
+  // An attribute's own refusal is let through.
+  EXPECT_THROW(xa->setValue(u"2"), xercesc::DOMException);
 }
 
-TEST_F(ElementTest, BadNamesAndWrongAttributes) {
+TEST_F(ElementTest, BadNamesWrongAttributesAndMissingNodes) {
   EXPECT_XML_ERROR(root->setAttribute(u"1a", u"v"), "elemSetAttrInvalidCharError", u"1a", u"r");
   EXPECT_XML_ERROR(root->setAttributeNS(u"urn:q", u"1a", u"v"), "elemSetAttrInvalidCharError", u"1a", u"r");
   EXPECT_XML_ERROR(root->setAttributeNS(u"", u"q:a", u"v"), "elemSetAttrNSNamespaceError", u"q:a", u"", u"r");
@@ -78,9 +78,6 @@ TEST_F(ElementTest, BadNamesAndWrongAttributes) {
   EXPECT_XML_ERROR(first->setIdAttributeNode(rootsA.get(), true), "elemSetIdAttrNotFoundError", u"a", u"first");
   EXPECT_XML_ERROR(root->setIdAttribute(u"none", true), "elemSetIdAttrNotFoundError", u"none", u"r");
   EXPECT_XML_ERROR(root->setIdAttributeNS(u"urn:p", u"none", true), "elemSetIdAttrNotFoundError", u"none", u"r");
-}
-
-TEST_F(ElementTest, AttrArgumentsMustHaveANode) {
   Attr empty(nullptr, nullptr);
   for (Attr* given : {static_cast<Attr*>(nullptr), &empty}) {
     EXPECT_XML_ERROR(root->setAttributeNode(given), "emptyNodeArgument");
@@ -90,23 +87,50 @@ TEST_F(ElementTest, AttrArgumentsMustHaveANode) {
   }
 }
 
-TEST_F(ElementTest, NodeChangesReturnTheirArgumentNotTheReplacedAttribute) {
-  Attr replacement(document->getImpl()->createAttribute(u"a"), document);
-  replacement.setValue(u"new");
-  EXPECT_EQ(root->setAttributeNode(&replacement), &replacement);
-  EXPECT_EQ(root->getAttribute(u"a"), u"new");
-  EXPECT_EQ(rootsA->getOwnerElement(), nullptr);  // replaced
-  EXPECT_EQ(root->removeAttributeNode(&replacement), &replacement);
-  EXPECT_FALSE(root->hasAttribute(u"a"));
-}
-
-TEST_F(ElementTest, SettingAnAttributeTheElementAlreadyHasChangesNothing) {
+TEST_F(ElementTest, NodeChangesReturnTheirArgument) {
+  // Setting an attribute the element already has changes nothing...
   EXPECT_EQ(root->setAttributeNode(rootsA.get()), rootsA.get());
   const std::unique_ptr<Element> owner(rootsA->getOwnerElement());
   EXPECT_TRUE(owner && owner->isSameNode(root.get()));
-  // Still this element's alone: another element may not take it as well.
+  EXPECT_EQ(owner->getOwnerDocWrapper(), document);
+  // ...it stays this element's alone, and a read-only element still refuses it.
   EXPECT_XML_ERROR(first->setAttributeNode(rootsA.get()), "elemSetAttrNodeInUseError", u"a", u"first");
-  // A read-only element still refuses it.
   const std::unique_ptr<Attr> xa(x->getAttributeNode(u"a"));
   EXPECT_XML_ERROR(x->setAttributeNode(xa.get()), "elemSetAttrReadOnlyError", u"a", u"x");
+
+  Attr replacement(document->getImpl()->createAttribute(u"a"), document);
+  EXPECT_EQ(root->setAttributeNode(&replacement), &replacement);  // not the attribute replaced
+  EXPECT_EQ(rootsA->getOwnerElement(), nullptr);
+  EXPECT_EQ(root->removeAttributeNode(&replacement), &replacement);
+}
+
+namespace {
+
+// Records what isDerivedFrom is given; its names are absent.
+class RecordingType : public xercesc::DOMTypeInfo {
+ public:
+  const XMLCh* getTypeName() const override { return nullptr; }
+  const XMLCh* getTypeNamespace() const override { return nullptr; }
+  bool isDerivedFrom(const XMLCh* typeNamespace, const XMLCh* typeName, DerivationMethods method) const override {
+    names = ustring(typeNamespace) + u" " + typeName;
+    std::memcpy(&methodBits, &method, sizeof methodBits);  // the raw bits, also outside the enumeration
+    return true;
+  }
+  mutable ustring names;
+  mutable int methodBits = 0;
+};
+
+}  // namespace
+
+TEST(TypeInfo, TheDerivationMethodIsTruncatedAndPassedOnUnchecked) {
+  const struct { double given; int passed; } cases[] = {
+      {TypeInfo::DERIVATION_RESTRICTION(), 1}, {2.9, 2}, {-1, -1}, {3, 3}, {notANumber, INT_MIN}, {1e10, INT_MIN}};
+  const RecordingType recorder;
+  const TypeInfo info(&recorder, nullptr);
+  for (const auto& c : cases) {
+    EXPECT_TRUE(info.isDerivedFrom(u"urn:ns", u"name", c.given));
+    EXPECT_EQ(recorder.methodBits, c.passed) << c.given;
+  }
+  EXPECT_EQ(recorder.names, u"urn:ns name");
+  EXPECT_EQ(info.getTypeName() + info.getTypeNamespace(), u"");  // absent: empty
 }

@@ -1,23 +1,14 @@
-#include <paxorel/xml.hpp>
-
+// The parser, its options, and how its failures are reported.
 #include "support/expectations.hpp"
 
 #include <sys/stat.h>
 
-#include <gtest/gtest.h>
-
 using namespace paxorel::xml;
-using testing_support::TempDir;
-using testing_support::u;
+using namespace testing_support;
 
 namespace {
 
-std::size_t registered() { return DocumentRegistry::getInstance()->entries().size(); }
-
-ustring rootName(const std::shared_ptr<Document>& document) {
-  const std::unique_ptr<Node> root(document->getLastChild());
-  return root->getNodeName();
-}
+ustring rootName(const std::shared_ptr<Document>& document) { return own(document->getLastChild())->getNodeName(); }
 
 // The message text of the failure of `action`, which must fail by the host way.
 template <class Action>
@@ -33,150 +24,159 @@ ustring messageOf(Action&& action) {
 
 }  // namespace
 
-TEST(ParseString, ReadsTheTextAsUtf8WhateverTheDeclarationSays) {
+TEST(ParseString, ReadsTheTextAsUtf8WhateverTheDeclarationSaysAndReportsFailures) {
   const auto document = parseString(u"<?xml version='1.0' encoding='ISO-8859-1'?><r>\u00e9\u20ac\U0001F600</r>");
-  const std::unique_ptr<Node> root(document->getFirstChild());
-  EXPECT_EQ(root->getTextContent(), u"\u00e9\u20ac\U0001F600");
-  EXPECT_EQ(document->getOwnerDocWrapper().get(), document.get());
-}
-
-TEST(ParseString, FailuresNameTheTextAndXercessMessage) {
-  const ustring text = u"<r><a></r>";
-  const ustring message = messageOf([&] { parseString(text); });
-  EXPECT_FALSE(message.empty());
-  EXPECT_XML_ERROR(parseString(text), "parseStringError", text, message);
-  EXPECT_XML_ERROR(parseString(u""), "parseStringError", u"", messageOf([] { parseString(u""); }));
-}
-
-TEST(ParseString, ALoneSurrogateIsNotWellFormed) {
-  const ustring text = u"<r>" + ustring(1, u'\xD800') + u"</r>";
-  EXPECT_XML_ERROR(parseString(text), "parseStringError", text, messageOf([&] { parseString(text); }));
-}
-
-TEST(ParseString, AFailedParseLeavesNothingRegistered) {
+  EXPECT_EQ(own(document->getFirstChild())->getTextContent(), u"\u00e9\u20ac\U0001F600");
+  // Failures name the text and the message of Xerces, and leave nothing registered.
   const std::size_t before = registered();
-  try {
-    parseString(u"<unclosed>");
-  } catch (const basis::except::IMsgIDException&) {
+  for (const ustring& text : {ustring(u"<r><a></r>"), ustring(u""), u"<r>" + ustring(1, u'\xD800') + u"</r>"}) {
+    const ustring message = messageOf([&] { parseString(text); });
+    EXPECT_FALSE(message.empty());
+    EXPECT_XML_ERROR(parseString(text), "parseStringError", text, message);
   }
   EXPECT_EQ(registered(), before);
-  auto document = parseString(u"<r/>");
+  const auto another = parseString(u"<r/>");
   EXPECT_EQ(registered(), before + 1);
-  document.reset();
-  EXPECT_EQ(registered(), before);
 }
 
-TEST(Parser, AParserServesOneParseAfterAnother) {
-  const Parser parser;
-  // A failure of either kind leaves no handler behind: the next failure is
-  // reported again, and the next good text parses.
-  EXPECT_XML_ERROR(parser.parseString(u"<a>"), "parseStringError", u"<a>", messageOf([&] { parser.parseString(u"<a>"); }));
-  EXPECT_XML_ERROR(parser.parseURI(u"/no/such/file.xml"), "inputFileNonexistentError", u"/no/such/file.xml");
-  EXPECT_XML_ERROR(parser.parseString(u"<b>"), "parseStringError", u"<b>", messageOf([&] { parser.parseString(u"<b>"); }));
-  Document* first = parser.parseString(u"<one/>");
-  Document* second = parser.parseString(u"<two/>");
-  const auto one = DocumentRegistry::shareWithCaller(first), two = DocumentRegistry::shareWithCaller(second);
-  EXPECT_EQ(rootName(one), u"one");  // the second parse left the first tree alone
+TEST(Parser, ServesOneParseAfterAnotherInItsOwnErrorModeAndItsDocumentsOutliveIt) {
+  std::shared_ptr<Document> one, two;
+  {
+    Parser parser;
+    // A failure of either kind leaves no handler behind: the next failure is
+    // reported again, and the next good text parses.
+    const auto bad = [&](const ustring& text) { return messageOf([&] { parser.parseString(text); }); };
+    EXPECT_XML_ERROR(parser.parseString(u"<a>"), "parseStringError", u"<a>", bad(u"<a>"));
+    EXPECT_XML_ERROR(parser.parseURI(u"/no/such/file.xml"), "inputFileNonexistentError", u"/no/such/file.xml");
+    EXPECT_XML_ERROR(parser.parseString(u"<b>"), "parseStringError", u"<b>", bad(u"<b>"));
+    one = DocumentRegistry::shareWithCaller(parser.parseString(u"<one/>"));
+    two = DocumentRegistry::shareWithCaller(parser.parseString(u"<two/>"));
+    parser.setNativeErrorMode(true);
+    try {
+      parser.parseString(u"<a>");
+      ADD_FAILURE();
+    } catch (const paxorel::xml::Exception& e) {
+      EXPECT_EQ(std::string(e.what()).rfind("Cannot parse the string '<a>': ", 0), 0u) << e.what();
+    }
+  }
+  EXPECT_EQ(rootName(one), u"one");  // neither the second parse nor the parser's end took the first tree
   EXPECT_EQ(rootName(two), u"two");
 }
 
-TEST(Parser, ADocumentOutlivesItsParser) {
-  std::shared_ptr<Document> document;
-  {
-    const Parser parser;
-    document = DocumentRegistry::shareWithCaller(parser.parseString(u"<kept><x/></kept>"));
-  }
-  EXPECT_EQ(rootName(document), u"kept");
-}
-
-TEST(Parser, FailsInItsOwnErrorMode) {
-  Parser parser;
-  parser.setNativeErrorMode(true);
-  try {
-    parser.parseString(u"<a>");
-    FAIL();
-  } catch (const paxorel::xml::Exception& e) {
-    EXPECT_EQ(std::string(e.what()).rfind("Cannot parse the string '<a>': ", 0), 0u) << e.what();
-  }
-}
-
 namespace {
-
 struct ParseFileTest : ::testing::Test {
   TempDir dir;
-  std::string good = dir.write("good.xml", "<?xml version='1.0'?><!DOCTYPE top [<!ELEMENT top EMPTY>]><top/>");
-  // Valid against its DTD, but not well-formed.
-  std::string bad = dir.write("bad.xml", "<!DOCTYPE top [<!ELEMENT top ANY><!ELEMENT open ANY>]>\n<top>\n  <open>\n</top>\n");
 };
-
 }  // namespace
 
-TEST_F(ParseFileTest, ReadsPathsAndFileUrls) {
+TEST_F(ParseFileTest, ReadsPathsAndFileUrlsAsWrittenAndRefusesDirectoriesAndMissingFiles) {
+  const std::string good = dir.write("good.xml", "<?xml version='1.0'?><!DOCTYPE top [<!ELEMENT top EMPTY>]><top/>");
   EXPECT_EQ(rootName(parseFile(u(good))), u"top");
   EXPECT_EQ(rootName(parseFile(u("file://" + good))), u"top");
-  const Parser parser;
   const ustring path = u(good);
-  EXPECT_EQ(&parser.validatePath(path), &path);  // its own argument
-}
-
-TEST_F(ParseFileTest, RefusesDirectoriesAndMissingFiles) {
+  EXPECT_EQ(&Parser().validatePath(path), &path);  // its own argument
   EXPECT_XML_ERROR(parseFile(u(dir.dir())), "inputFileIsDirectoryError", u(dir.dir()));
-  EXPECT_XML_ERROR(parseFile(u(dir.path("none.xml"))), "inputFileNonexistentError", u(dir.path("none.xml")));
   EXPECT_XML_ERROR(parseFile(u("file://" + dir.dir())), "inputFileIsDirectoryError", u(dir.dir()));
+  EXPECT_XML_ERROR(parseFile(u(dir.path("none.xml"))), "inputFileNonexistentError", u(dir.path("none.xml")));
   EXPECT_XML_ERROR(parseFile(u""), "inputFileNonexistentError", u"");
-}
-
-TEST_F(ParseFileTest, AUrlPathIsTakenAsWritten) {
-  dir.write("my doc.xml", "<a/>");
-  const std::string url = "file://" + dir.path("my%20doc.xml");
-  EXPECT_XML_ERROR(parseFile(u(url)), "inputFileNonexistentError", u(dir.path("my%20doc.xml")));
-}
-
-TEST_F(ParseFileTest, TextHoldingFileColonAnywhereIsAUrl) {
-  ASSERT_EQ(mkdir(dir.path("afile:b").c_str(), 0700), 0);
+  // A URL is taken as written, wherever the text says "file:".
+  dir.write("my doc.xml", "<a/>");  // no percent decoding
+  EXPECT_XML_ERROR(parseFile(u("file://" + dir.path("my%20doc.xml"))), "inputFileNonexistentError",
+                   u(dir.path("my%20doc.xml")));
   // As a plain path this file exists; as a URL its path ends before the '#'.
+  ASSERT_EQ(mkdir(dir.path("afile:b").c_str(), 0700), 0);
   const std::string plain = dir.write("afile:b/x#y.xml", "<a/>");
   EXPECT_XML_ERROR(parseFile(u(plain)), "inputFileNonexistentError", u(dir.path("afile:b/x")));
-}
-
-TEST_F(ParseFileTest, AMalformedUrlNamesTheTextAsGiven) {
-  const ustring uri = u"file://host:notaport/x.xml";
-  try {
-    parseFile(uri);
-    FAIL() << "taken as well-formed";
-  } catch (const basis::except::IMsgIDException& e) {
-    EXPECT_EQ(e.GetID(), "paxorel:xml_error:malformedURL");
-    EXPECT_EQ(std::get<ustring>(e.GetBaseMsgIDObj().args[0]), uri);
-    EXPECT_FALSE(std::get<ustring>(e.GetBaseMsgIDObj().args[1]).empty());
-  }
+  // A malformed one is named as given.
+  const ustring malformed = u"file://host:notaport/x.xml", message = messageOf([&] { parseFile(malformed); });
+  EXPECT_FALSE(message.empty());
+  EXPECT_XML_ERROR(parseFile(malformed), "malformedURL", malformed, message);
 }
 
 TEST_F(ParseFileTest, AFailureIsAValidationErrorWhenValidationIsOn) {
+  // Valid against its DTD, but not well-formed.
+  const ustring uri =
+      u(dir.write("bad.xml", "<!DOCTYPE top [<!ELEMENT top ANY><!ELEMENT open ANY>]>\n<top>\n  <open>\n</top>\n"));
   const Parser parser;
   const std::unique_ptr<ParserConfiguration> configuration(parser.getConfiguration());
-  const ustring uri = u(bad);
   const ustring message = messageOf([&] { parser.parseURI(uri); });
   EXPECT_XML_ERROR(parser.parseURI(uri), "parseFileError", uri, message);
-
   configuration->setValidate(true);
   EXPECT_XML_ERROR(parser.parseURI(uri), "docValidationError", u"DTD", u"4", u"3", message);
   configuration->setSchema(true);
   EXPECT_XML_ERROR(parser.parseURI(uri), "docValidationError", u"Schema", u"4", u"3", message);
 }
 
-TEST_F(ParseFileTest, AWarningAloneStopsTheParse) {
+TEST_F(ParseFileTest, AWarningAloneStopsTheParseAsDoesAnUnreadableFile) {
   // A second declaration of a notation is only a warning to Xerces.
-  const std::string warned =
-      dir.write("warned.xml", "<!DOCTYPE a [<!NOTATION n SYSTEM 'x'><!NOTATION n SYSTEM 'y'>]><a/>");
-  const ustring uri = u(warned);
-  const ustring message = messageOf([&] { parseFile(uri); });
-  EXPECT_XML_ERROR(parseFile(uri), "parseFileError", uri, message);
+  const ustring warned =
+      u(dir.write("warned.xml", "<!DOCTYPE a [<!NOTATION n SYSTEM 'x'><!NOTATION n SYSTEM 'y'>]><a/>"));
+  EXPECT_XML_ERROR(parseFile(warned), "parseFileError", warned, messageOf([&] { parseFile(warned); }));
+  const ustring locked = u(dir.write("locked.xml", "<a/>"));
+  ASSERT_EQ(chmod(dir.path("locked.xml").c_str(), 0), 0);
+  if (geteuid() == 0) GTEST_SKIP() << "root reads everything";
+  EXPECT_XML_ERROR(parseFile(locked), "parseFileError", locked, messageOf([&] { parseFile(locked); }));
 }
 
-TEST_F(ParseFileTest, AFileThatCannotBeReadIsAParseError) {
-  const std::string locked = dir.write("locked.xml", "<a/>");
-  ASSERT_EQ(chmod(locked.c_str(), 0), 0);
-  if (geteuid() == 0) GTEST_SKIP() << "root reads everything";
-  const ustring uri = u(locked);
-  EXPECT_XML_ERROR(parseFile(uri), "parseFileError", uri, messageOf([&] { parseFile(uri); }));
+namespace {
+
+struct Flag {
+  const char* name;
+  bool (ParserConfiguration::*get)() const;
+  void (ParserConfiguration::*set)(bool);
+  bool byDefault;
+};
+#define FLAG(name, byDefault) Flag{#name, &ParserConfiguration::get##name, &ParserConfiguration::set##name, byDefault}
+
+const Flag flags[] = {
+    FLAG(Namespaces, true), FLAG(ElementContentWhitespace, true), FLAG(LoadExternalDTD, true),
+    FLAG(DisableDefaultEntityResolution, false), FLAG(DisallowDoctype, false), FLAG(Entities, true),
+    FLAG(Validate, false), FLAG(SkipDTDValidation, false), FLAG(ValidationErrorAsFatal, false),
+    FLAG(ContinueAfterFatalError, false), FLAG(Comments, true), FLAG(DoXInclude, false), FLAG(LoadSchema, true),
+    FLAG(Schema, false), FLAG(ValidateIfSchema, false), FLAG(SchemaFullChecking, false),
+    FLAG(DatatypeNormalization, false), FLAG(IgnoreAnnotations, false), FLAG(ValidateAnnotations, false),
+    FLAG(GenerateSyntheticAnnotations, false), FLAG(CacheGrammarFromParse, false),
+    FLAG(UseCachedGrammarInParse, false), FLAG(HandleMultipleImports, false), FLAG(HasPSVIInfo, false),
+    FLAG(IdentityConstraintChecking, true), FLAG(IgnoreCachedDTD, false),
+};
+
+}  // namespace
+
+TEST(ParserConfiguration, EveryFlagStartsAtXercessDefaultAndReadsBackWhatWasSet) {
+  for (const Flag& flag : flags) {
+    const Parser fresh;  // some options of Xerces switch others on
+    const std::unique_ptr<ParserConfiguration> options(fresh.getConfiguration());
+    EXPECT_EQ((*options.*flag.get)(), flag.byDefault) << flag.name;
+    (*options.*flag.set)(!flag.byDefault);
+    EXPECT_EQ((*options.*flag.get)(), !flag.byDefault) << flag.name;
+  }
+}
+
+TEST(ParserConfiguration, StandardUriConformantReadsTheCachedGrammarOptionAndLocationsAreStrings) {
+  const auto options = own(Parser().getConfiguration());
+  options->setStandardURIConformant(true);
+  EXPECT_FALSE(options->getStandardURIConformant());
+  options->setUseCachedGrammarInParse(true);
+  EXPECT_TRUE(options->getStandardURIConformant());
+  EXPECT_EQ(options->getExternalSchemaLocation() + options->getExternalNoNamespaceSchemaLocation(), u"");
+  options->setExternalSchemaLocation(u"urn:a a.xsd");
+  options->setExternalNoNamespaceSchemaLocation(u"b.xsd");
+  EXPECT_EQ(options->getExternalSchemaLocation() + u"|" + options->getExternalNoNamespaceSchemaLocation(),
+            u"urn:a a.xsd|b.xsd");
+}
+
+TEST(ParserConfiguration, AllViewsOfOneParserShareTheSettingsTakeEffectAndOutliveIt) {
+  const Parser parser;
+  const auto one = own(parser.getConfiguration()), two = own(parser.getConfiguration());
+  one->setComments(false);
+  EXPECT_FALSE(two->getComments());
+  const auto document = DocumentRegistry::shareWithCaller(parser.parseString(u"<a><!--c--></a>"));
+  EXPECT_FALSE(own(document->getFirstChild())->hasChildNodes());
+  two->setDisallowDoctype(true);
+  EXPECT_THROW(parser.parseString(u"<!DOCTYPE a><a/>"), basis::except::IMsgIDException);
+
+  const auto orphan = own(Parser().getConfiguration());
+  orphan->setComments(false);  // the parser object is gone, its options live on
+  EXPECT_FALSE(orphan->getComments());
+  EXPECT_STREQ(orphan->getFullyQualifiedVorloTypeName(), "zelmar.io.xml.dom.ParserConfiguration");
 }

@@ -1,0 +1,111 @@
+// The platform layer: UTF-16 text, the message catalogue, exceptions, the
+// file system and the binding registry.
+#include <basis/except/Exception.hpp>
+#include <basis/filesystem/filesystem.hpp>
+#include <basis/i18n/MessageCatalog.hpp>
+#include <basis/text/utf.hpp>
+#include <vorlo/factory/basic/BindingRegistry.hpp>
+#include <vorlo/factory/full/Wrappable.hpp>
+#include <ZELMAR/string/MissingNotSupported.hpp>
+
+#include "support/TempDir.hpp"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <memory>
+
+using namespace basis;
+using testing_support::u;
+
+TEST(Utf, RoundTripsEveryPlaneKeepsLoneSurrogatesAndReplacesEachBadByte) {
+  const std::u16string sample = u"a\u00e9\u20ac\U0001F600z";  // 1, 2, 3 and 4 bytes in UTF-8
+  EXPECT_EQ(text::to_utf8(sample), "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80z");
+  EXPECT_EQ(text::from_utf8(text::to_utf8(sample)), sample);
+  EXPECT_EQ(text::to_utf8(std::u16string{u'\xDC00', u'a'}), "\xED\xB0\x80" "a");  // which from_utf8 refuses
+  const struct { std::string in; std::u16string out; } cases[] = {
+      {"a\xFF" "b", u"a\uFFFDb"}, {"\xED\xA0\x80", u"\uFFFD\uFFFD\uFFFD"}, {"\xC0\xAF", u"\uFFFD\uFFFD"},  // overlong
+      {"\xE2\x82", u"\uFFFD\uFFFD"}, {"\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},  // cut short; above U+10FFFF
+      {std::string("\0x", 2), std::u16string(u"\0x", 2)},
+  };
+  for (const auto& c : cases) EXPECT_EQ(text::from_utf8(c.in), c.out);
+}
+
+TEST(MessageCatalog, FillsPlaceholdersInArgumentOrderAndTellsUnknownMessages) {
+  const auto message = [](const std::string& key, std::vector<i18n::MsgArg> args) {
+    return i18n::MessageCatalog::get_message(i18n::BaseMsgID("paxorel:xml_error", key, std::move(args)),
+                                             i18n::HostLocale::global());
+  };
+  EXPECT_EQ(message("nodeReplaceChildNotFoundError", {u"new", u"old"}),
+            u"Cannot replace 'old' with 'new': 'old' is not a child of this node.");
+  // Narrow arguments are UTF-8; integers are written in decimal; missing ones stay as written.
+  const ustring missing = u"': it does not exist.";
+  EXPECT_EQ(message("inputFileNonexistentError", {std::string("\xC3\xA9")}), u"Cannot read the file '\u00e9" + missing);
+  EXPECT_EQ(message("inputFileNonexistentError", {std::int64_t{-12}}), u"Cannot read the file '-12" + missing);
+  EXPECT_EQ(message("parseFileError", {u"a.xml"}), u"Cannot parse 'a.xml': {1}");
+  EXPECT_EQ(message("noSuchMessage", {u"x", std::string("y")}),
+            u"Message paxorel:xml_error:noSuchMessage is not in the catalogue; arguments: x, y");
+  EXPECT_EQ(i18n::MessageCatalog::get_message(ZELMAR::string::MissingNotSupported(), i18n::HostLocale::global()),
+            u"A missing string is not supported here: the callback must give text.");
+}
+
+namespace {
+struct Sample : i18n::BaseMsgID {
+  explicit Sample(const ustring& name) : BaseMsgID("paxorel:xml_error", "inputFileIsDirectoryError", {name}) {}
+};
+}  // namespace
+
+TEST(Exception, CarriesItsIdentifierAndTextAndItsCopiesShareTheThrowSite) {
+  except::Exception<Sample> e(Sample(u"/tmp"));
+  e.setErrorId(except::IMsgIDException::get_error_id(e.GetBaseMsgIDObj()));
+  EXPECT_EQ(e.GetID(), "paxorel:xml_error:inputFileIsDirectoryError");
+  EXPECT_STREQ(e.what(), "Cannot read the file '/tmp': it is a directory.");
+  EXPECT_EQ(text::to_utf8(e.ToUstringImpl()), e.what());
+  EXPECT_EQ(e.throwSite().line, -1);
+  const std::unique_ptr<except::IException> copy(e.clone());
+  EXPECT_EQ(&copy->throwSite(), &e.throwSite());
+  try {
+    copy->rethrow();
+  } catch (const std::exception& thrown) {  // also a standard exception
+    EXPECT_EQ(dynamic_cast<const except::IMsgIDException&>(thrown).GetID(), e.GetID());
+  }
+}
+
+TEST(Filesystem, PathsStatusAndAccess) {
+  EXPECT_EQ(filesystem::make_native_form(u"//a///b/", false), u"/a/b/");
+  EXPECT_EQ(filesystem::make_native_form(u"//a///b/", true), u"/a/b");
+  EXPECT_EQ(filesystem::make_native_form(u"/", true), u"/");
+  const struct { const char16_t* path; const char16_t* parent; } cases[] = {
+      {u"/tmp/out.xml", u"/tmp"}, {u"/out.xml", u"/"}, {u"out.xml", u""}, {u"a/b/", u"a/b"}, {u"", u""}};
+  for (const auto& c : cases) EXPECT_EQ(filesystem::extract_parent_path(c.path), c.parent);
+
+  // Status and access tell files from directories, and what may be done.
+  const testing_support::TempDir dir;
+  const std::string file = dir.write("f\xC3\xA9.xml", "<a/>");  // a non-ASCII name
+  EXPECT_EQ(filesystem::status(u(file)) & filesystem::file_type_mask, filesystem::regular_file);
+  EXPECT_EQ(filesystem::status(u(dir.dir())) & filesystem::file_type_mask, filesystem::directory_file);
+  EXPECT_EQ(filesystem::status(u(dir.path("missing"))), 0u);
+  // A NUL cuts nothing short: the name with it is not the name before it.
+  EXPECT_FALSE(filesystem::exists(u(file) + std::u16string(1, u'\0') + u"x"));
+  EXPECT_FALSE(filesystem::access(u(dir.path("missing")), filesystem::access_exists));
+  EXPECT_TRUE(filesystem::access(u(file), filesystem::access_read | filesystem::access_write));
+  ASSERT_EQ(chmod(file.c_str(), 0444), 0);
+  EXPECT_TRUE(filesystem::access(u(file), filesystem::access_read));
+  if (geteuid() == 0) GTEST_SKIP() << "root may write everything";
+  EXPECT_FALSE(filesystem::access(u(file), filesystem::access_read | filesystem::access_write));
+}
+
+TEST(BindingRegistry, ANativeObjectThatDiesOrIsRetractedLeavesNoBindingBehind) {
+  auto& registry = vorlo::factory::basic::BindingRegistry::instance();
+  int hostObject = 0;
+  auto object = std::make_unique<vorlo::factory::full::Wrappable>();
+  const vorlo::factory::full::Wrappable* address = object.get();
+  const vorlo::factory::full::Wrappable other;
+  registry.bind(address, &hostObject);
+  registry.retract(&other);  // unbound: changes nothing
+  EXPECT_EQ(registry.find(address), &hostObject);
+  object.reset();
+  EXPECT_EQ(registry.find(address), nullptr);
+}
