@@ -4,6 +4,10 @@
 
 #include <xercesc/util/XercesDefs.hpp>
 
+XERCES_CPP_NAMESPACE_BEGIN
+class DOMException;
+XERCES_CPP_NAMESPACE_END
+
 namespace paxorel::xml {
 
 /// Carries one string across the boundary to Xerces. XMLCh and ustring are
@@ -28,5 +32,8 @@ class XercesString {
  private:
   const XMLCh* text_;
 };
+
+/// The message text of a Xerces DOM exception, as errors carry it.
+ustring exceptionMessage(const xercesc::DOMException& e);
 
 }  // namespace paxorel::xml

@@ -25,12 +25,6 @@ namespace paxorel::xml {
 using xercesc::DOMException;
 using xercesc::XMLPlatformUtils;
 
-namespace {
-
-ustring messageOf(const DOMException& e) { return XercesString::toUstring(e.getMessage()); }
-
-}  // namespace
-
 /// Deleter of the registry family: the one place where a Document is deleted.
 /// It is armed only once the registration has succeeded, so that a failure
 /// while registering never deletes an object whose constructor still runs.
@@ -119,8 +113,8 @@ void Document::build(const ustring* namespaceURI, const ustring& qualifiedName, 
         raiseXmlError(*this, xml_error::docElemNameError(qualifiedName));
       case DOMException::WRONG_DOCUMENT_ERR:
         if (doctype) raiseXmlError(*this, xml_error::docDoctypeError(doctype->name));
-        raiseXmlError(*this, xml_error::docCreationError(messageOf(e)));
-      default: raiseXmlError(*this, xml_error::docCreationError(messageOf(e)));
+        raiseXmlError(*this, xml_error::docCreationError(exceptionMessage(e)));
+      default: raiseXmlError(*this, xml_error::docCreationError(exceptionMessage(e)));
     }
   } catch (...) {
     raiseXmlError(*this, xml_error::docCreationUnknownError());
@@ -136,7 +130,7 @@ void Document::raiseDocTypeError(const ustring& name) const {
     switch (e.code) {
       case DOMException::INVALID_CHARACTER_ERR: raiseXmlError(*this, xml_error::docTypeInvalidCharError(name));
       case DOMException::NAMESPACE_ERR: raiseXmlError(*this, xml_error::docTypeNameError(name));
-      default: raiseXmlError(*this, xml_error::docTypeCreationError(messageOf(e)));
+      default: raiseXmlError(*this, xml_error::docTypeCreationError(exceptionMessage(e)));
     }
   } catch (...) {
     raiseXmlError(*this, xml_error::docTypeCreationUnknownError());
@@ -324,7 +318,7 @@ Node* Document::importNodeBase(Node* node, bool deep) {
     if (e.code == DOMException::NOT_SUPPORTED_ERR) {
       raiseXmlError(*this, xml_error::importNodeUnsupportedError(name, node->getNodeTypeName()));
     }
-    raiseXmlError(*this, xml_error::importNodeError(name, messageOf(e)));
+    raiseXmlError(*this, xml_error::importNodeError(name, exceptionMessage(e)));
   } catch (...) {
     raiseXmlError(*this, xml_error::importNodeUnknownError(node->getNodeName()));
   }
@@ -355,9 +349,9 @@ Node* Document::renameNode(Node* node, const ustring& namespaceURI, const ustrin
             namespaceURI != xmlnsNamespace) {
           raiseXmlError(*this, xml_error::renameNodeInvalidAttrNamespaceError(name, qualifiedName));
         }
-        raiseXmlError(*this, xml_error::renameNodeError(name, messageOf(e)));
+        raiseXmlError(*this, xml_error::renameNodeError(name, exceptionMessage(e)));
       }
-      default: raiseXmlError(*this, xml_error::renameNodeError(name, messageOf(e)));
+      default: raiseXmlError(*this, xml_error::renameNodeError(name, exceptionMessage(e)));
     }
   } catch (...) {
     raiseXmlError(*this, xml_error::renameNodeUnknownError(node->getNodeName()));

@@ -225,8 +225,6 @@ void refuseSelfChild(const DOMNode* parent, const DOMNode* child) {
   if (parent == child) throw xercesc::DOMException(xercesc::DOMException::HIERARCHY_REQUEST_ERR);
 }
 
-ustring messageOf(const xercesc::DOMException& e) { return XercesString::toUstring(e.getMessage()); }
-
 }  // namespace
 
 Node* Node::appendChild(Node* newChild) {
@@ -247,7 +245,7 @@ Node* Node::appendChild(Node* newChild) {
         raiseXmlError(*this, xml_error::nodeAppendChildWrongDocumentError(name));
       case xercesc::DOMException::NO_MODIFICATION_ALLOWED_ERR:
         raiseXmlError(*this, xml_error::nodeAppendChildReadOnlyError(name));
-      default: raiseXmlError(*this, xml_error::nodeAppendChildError(name, messageOf(e)));
+      default: raiseXmlError(*this, xml_error::nodeAppendChildError(name, exceptionMessage(e)));
     }
   } catch (...) {
     raiseXmlError(*this, xml_error::nodeAppendChildUnknownError(newChild->getNodeName()));
@@ -275,7 +273,7 @@ Node* Node::insertBefore(Node* newChild, Node* refChild) {
         raiseXmlError(*this, xml_error::nodeInsertBeforeReadOnlyError(name));
       case xercesc::DOMException::NOT_FOUND_ERR:
         raiseXmlError(*this, xml_error::nodeInsertBeforeNotFoundError(name, refChild->getNodeName()));
-      default: raiseXmlError(*this, xml_error::nodeInsertBeforeError(name, messageOf(e)));
+      default: raiseXmlError(*this, xml_error::nodeInsertBeforeError(name, exceptionMessage(e)));
     }
   }
   return newChild;
@@ -301,7 +299,7 @@ Node* Node::replaceChild(Node* newChild, Node* oldChild) {
         raiseXmlError(*this, xml_error::nodeReplaceChildReadOnlyError(name));
       case xercesc::DOMException::NOT_FOUND_ERR:
         raiseXmlError(*this, xml_error::nodeReplaceChildNotFoundError(name, oldChild->getNodeName()));
-      default: raiseXmlError(*this, xml_error::nodeReplaceChildError(name, messageOf(e)));
+      default: raiseXmlError(*this, xml_error::nodeReplaceChildError(name, exceptionMessage(e)));
     }
   }
   return newChild;
@@ -319,7 +317,7 @@ Node* Node::removeChild(Node* oldChild) {
         raiseXmlError(*this, xml_error::nodeRemoveChildReadOnlyError(name));
       case xercesc::DOMException::NOT_FOUND_ERR:  // the child's name twice, not the parent's
         raiseXmlError(*this, xml_error::nodeRemoveChildNotFoundError(name, name));
-      default: raiseXmlError(*this, xml_error::nodeRemoveChildError(name, messageOf(e)));
+      default: raiseXmlError(*this, xml_error::nodeRemoveChildError(name, exceptionMessage(e)));
     }
   }
   return oldChild;

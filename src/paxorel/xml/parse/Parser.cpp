@@ -72,8 +72,7 @@ Document* Parser::parseString(const ustring& text) const {
     result.tree = parser_->parse(input.get());
   } catch (const xercesc::DOMLSException& e) {
     const auto* handler = scope.handler();
-    raiseXmlError(
-        *this, xml_error::parseStringError(text, handler ? handler->message : XercesString::toUstring(e.getMessage())));
+    raiseXmlError(*this, xml_error::parseStringError(text, handler ? handler->message : exceptionMessage(e)));
   }
   if (const auto* handler = scope.handler(); handler && handler->failed) {
     raiseXmlError(*this, xml_error::parseStringError(text, handler->message));
@@ -89,8 +88,7 @@ Document* Parser::parseURI(const ustring& uri) const {
     result.tree = parser_->parseURI(XercesString(uri));
   } catch (const xercesc::DOMLSException& e) {
     const auto* handler = scope.handler();
-    raiseXmlError(*this,
-                  xml_error::parseFileError(uri, handler ? handler->message : XercesString::toUstring(e.getMessage())));
+    raiseXmlError(*this, xml_error::parseFileError(uri, handler ? handler->message : exceptionMessage(e)));
   }
   const auto* handler = scope.handler();
   if (!handler) return nullptr;  // the configured handler has had the reports; no document
