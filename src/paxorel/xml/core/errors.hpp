@@ -44,8 +44,9 @@ class Error<Self, Args<Params...>> : public basis::i18n::BaseMsgID {
 /// Every error of the library: X(name, Args<parameter types...>); X takes the
 /// Args part as its variadic arguments, since it may hold commas.
 #define PAXOREL_XML_ERRORS(X)                                                      \
-  /* null node arguments */                                                        \
+  /* null arguments; objects without their Xerces object */                        \
   X(emptyNodeArgument, Args<>)                                                     \
+  X(emptyObjectArgument, Args<narrow>)                                             \
   /* character data */                                                             \
   X(cdataSubstringDataNegativeCountError, Args<>)                                  \
   X(cdataSubstringDataNegativeOffsetError, Args<>)                                 \
