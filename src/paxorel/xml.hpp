@@ -31,6 +31,11 @@
 #include <paxorel/xml/parse/Parser.hpp>
 #include <paxorel/xml/parse/ParserConfiguration.hpp>
 
+#include <paxorel/xml/xpath/XPathEvaluator.hpp>
+#include <paxorel/xml/xpath/XPathExpression.hpp>
+#include <paxorel/xml/xpath/XPathNSResolver.hpp>
+#include <paxorel/xml/xpath/XPathResult.hpp>
+
 #include <basis/except/Exception.hpp>
 #include <basis/except/IMsgIDException.hpp>
 

@@ -16,8 +16,11 @@
 #include <paxorel/xml/dom/Notation.hpp>
 #include <paxorel/xml/dom/ProcessingInstruction.hpp>
 #include <paxorel/xml/dom/Text.hpp>
+#include <paxorel/xml/xpath/XPathNSResolver.hpp>
+#include <paxorel/xml/xpath/XPathResult.hpp>
 
 #include <xercesc/dom/DOM.hpp>
+#include <xercesc/dom/DOMXPathException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 
 namespace paxorel::xml {
@@ -303,6 +306,65 @@ NodeList* Document::getElementsByTagName(const ustring& tagName) const {
 NodeList* Document::getElementsByTagNameNS(const ustring& namespaceURI, const ustring& localName) const {
   return new NodeList(tree()->getElementsByTagNameNS(XercesString(namespaceURI), XercesString(localName)),
                       getOwnerDocWrapper());
+}
+
+// --- XPath ---
+
+namespace {
+
+// What the three evaluate overloads share: the call of Xerces, the result's
+// wrapper, and the translation of Xerces's refusals.
+XPathResult* evaluated(const Document& self, xercesc::DOMDocument& tree, const ustring& expression,
+                       const xercesc::DOMNode& context, const xercesc::DOMXPathNSResolver* resolver, double type) {
+  const xercesc::DOMXPathResult::ResultType resultType = detail::resultType(type);
+  try {
+    detail::refuseForeignNode(context, &tree);
+    std::unique_ptr<xercesc::DOMXPathResult, detail::Release> result(
+        tree.evaluate(XercesString(expression), &context, resolver, resultType, nullptr));
+    std::shared_ptr<Document> owner = self.getOwnerDocWrapper();
+    return new XPathResult(result.release(), std::move(owner));
+  } catch (const xercesc::DOMXPathException& e) {
+    if (e.code == xercesc::DOMXPathException::INVALID_EXPRESSION_ERR) {
+      raiseXmlError(self, xml_error::xpathInvalidPathError(expression));
+    }
+    return nullptr;
+  } catch (const DOMException& e) {
+    switch (e.code) {
+      case DOMException::NOT_SUPPORTED_ERR: raiseXmlError(self, xml_error::xpathUnsupportedError(expression));
+      case DOMException::NAMESPACE_ERR: raiseXmlError(self, xml_error::xpathNamespaceError(expression));
+      case DOMException::WRONG_DOCUMENT_ERR: raiseXmlError(self, xml_error::xpathWrongDocumentError(expression));
+      default: return nullptr;
+    }
+  }
+}
+
+}  // namespace
+
+XPathResult* Document::evaluate(const ustring& expression, double type) {
+  const std::unique_ptr<Element> root(getDocumentElement());
+  if (!root) return nullptr;
+  return evaluated(*this, *tree(), expression, *root->getImpl(), nullptr, type);
+}
+
+XPathResult* Document::evaluate(const ustring& expression, const Node* context, double type) {
+  const xercesc::DOMNode* node = implOf(*this, context);
+  return evaluated(*this, *tree(), expression, *node, nullptr, type);
+}
+
+XPathResult* Document::evaluate(const ustring& expression, const Node* context, const XPathNSResolver* resolver,
+                                double type) {
+  const xercesc::DOMNode* node = implOf(*this, context);
+  if (!resolver || !resolver->getImpl()) raiseXmlError(*this, xml_error::emptyObjectArgument("XPathNSResolver"));
+  return evaluated(*this, *tree(), expression, *node, resolver->getImpl(), type);
+}
+
+XPathNSResolver* Document::createNSResolver(const Node* node) {
+  const xercesc::DOMNode* scope = implOf(*this, node);
+  xercesc::DOMDocument* document = tree();
+  detail::refuseForeignNode(*scope, document);
+  std::unique_ptr<xercesc::DOMXPathNSResolver, detail::Release> resolver(document->createNSResolver(scope));
+  std::shared_ptr<Document> owner = getOwnerDocWrapper();
+  return new XPathNSResolver(resolver.release(), std::move(owner));
 }
 
 // --- changing the document ---

@@ -19,6 +19,8 @@ class EntityReference;
 class Notation;
 class ProcessingInstruction;
 class Text;
+class XPathNSResolver;
+class XPathResult;
 
 /// A document: the one owner of its DOM tree.
 ///
@@ -103,6 +105,27 @@ class Document final : public Node {
   NodeList* getElementsByTagName(const ustring& tagName) const;
   /// A live list.
   NodeList* getElementsByTagNameNS(const ustring& namespaceURI, const ustring& localName) const;
+
+  // --- XPath ---
+  // A result type is one of the XPathResult constants, truncated. An
+  // expression that Xerces cannot parse is xpathInvalidPathError, one it
+  // does not support (or a context that is not an element) xpathUnsupportedError,
+  // a prefix without namespace xpathNamespaceError, a context of another
+  // document xpathWrongDocumentError; any other refusal gives null. Each
+  // error carries the expression.
+
+  /// Evaluates `expression` from the root element; null, without looking at
+  /// the expression, when the document has no root element.
+  XPathResult* evaluate(const ustring& expression, double type);
+  /// Evaluates `expression` from `context`; a null context is emptyNodeArgument.
+  XPathResult* evaluate(const ustring& expression, const Node* context, double type);
+  /// The same, with the prefixes resolved by `resolver`; a null resolver is
+  /// emptyObjectArgument.
+  XPathResult* evaluate(const ustring& expression, const Node* context, const XPathNSResolver* resolver, double type);
+  /// A resolver that answers by the namespace declarations in scope at
+  /// `node`. A null node is emptyNodeArgument; a node of another document is
+  /// Xerces's DOMException WRONG_DOCUMENT_ERR, untranslated.
+  XPathNSResolver* createNSResolver(const Node* node);
 
   // --- changing the document ---
 
