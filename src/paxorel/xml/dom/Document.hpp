@@ -142,6 +142,13 @@ class Document final : public Node {
   /// the first error that Xerces reported.
   void normalizeDocument();
 
+  // --- writing ---
+
+  /// Writes the document to the file at `path` as a new DOMWriter does, with
+  /// its failures, raised in this document's error mode. The document then
+  /// stays in memory until the process ends.
+  void xmlwrite(const ustring& path) const;
+
  private:
   struct DoctypeNames;
   struct RegistryDeleter;
