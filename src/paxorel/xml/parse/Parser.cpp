@@ -1,11 +1,11 @@
 #include <paxorel/xml/parse/Parser.hpp>
 
+#include <paxorel/xml/core/ErrorHandler.hpp>
 #include <paxorel/xml/core/XercesGuard.hpp>
 #include <paxorel/xml/core/XercesString.hpp>
 #include <paxorel/xml/core/raiseXmlError.hpp>
 #include <paxorel/xml/dom/Document.hpp>
 #include <paxorel/xml/dom/DocumentRegistry.hpp>
-#include <paxorel/xml/parse/ErrorHandler.hpp>
 #include <paxorel/xml/parse/ParserConfiguration.hpp>
 
 #include <basis/filesystem/filesystem.hpp>
@@ -71,10 +71,10 @@ Document* Parser::parseString(const ustring& text) const {
   try {
     result.tree = parser_->parse(input.get());
   } catch (const xercesc::DOMLSException& e) {
-    const auto* handler = scope.handler();
+    const auto handler = scope.handler();
     raiseXmlError(*this, xml_error::parseStringError(text, handler ? handler->message : exceptionMessage(e)));
   }
-  if (const auto* handler = scope.handler(); handler && handler->failed) {
+  if (const auto handler = scope.handler(); handler && handler->failed) {
     raiseXmlError(*this, xml_error::parseStringError(text, handler->message));
   }
   return result.adopt();
@@ -87,10 +87,10 @@ Document* Parser::parseURI(const ustring& uri) const {
   try {
     result.tree = parser_->parseURI(XercesString(uri));
   } catch (const xercesc::DOMLSException& e) {
-    const auto* handler = scope.handler();
+    const auto handler = scope.handler();
     raiseXmlError(*this, xml_error::parseFileError(uri, handler ? handler->message : exceptionMessage(e)));
   }
-  const auto* handler = scope.handler();
+  const auto handler = scope.handler();
   if (!handler) return nullptr;  // the configured handler has had the reports; no document
   if (handler->failed) {
     // Whether validation was on is read after the fact: with it on, every

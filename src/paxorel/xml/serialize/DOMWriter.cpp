@@ -1,12 +1,12 @@
 #include <paxorel/xml/serialize/DOMWriter.hpp>
 
+#include <paxorel/xml/core/ErrorHandler.hpp>
 #include <paxorel/xml/core/XercesGuard.hpp>
 #include <paxorel/xml/core/XercesString.hpp>
 #include <paxorel/xml/core/raiseXmlError.hpp>
 #include <paxorel/xml/dom/Node.hpp>
 #include <paxorel/xml/serialize/FileWriter.hpp>
 #include <paxorel/xml/serialize/SkipDTD.hpp>
-#include <paxorel/xml/serialize/WriteErrorHandler.hpp>
 #include <paxorel/xml/serialize/WriterConfiguration.hpp>
 #include <paxorel/xml/serialize/checkedFileTarget.hpp>
 
@@ -31,27 +31,6 @@ struct TextReleaser {
   void operator()(XMLCh* text) const { xercesc::XMLString::release(&text, XMLPlatformUtils::fgMemoryManager); }
 };
 
-// A new WriteErrorHandler is the serializer's error handler for one write
-// only: it is taken out again on every path, so that the serializer never
-// points at a handler that is gone. The handler itself outlives the scope.
-class HandlerScope {
- public:
-  explicit HandlerScope(xercesc::DOMConfiguration* configuration)
-      : configuration_(configuration), handler_(std::make_shared<WriteErrorHandler>()) {
-    const xercesc::DOMErrorHandler* handler = handler_.get();
-    configuration_->setParameter(XMLUni::fgDOMErrorHandler, static_cast<const void*>(handler));
-  }
-  ~HandlerScope() { configuration_->setParameter(XMLUni::fgDOMErrorHandler, static_cast<const void*>(nullptr)); }
-  HandlerScope(const HandlerScope&) = delete;
-  HandlerScope& operator=(const HandlerScope&) = delete;
-
-  std::shared_ptr<const WriteErrorHandler> handler() const { return handler_; }
-
- private:
-  xercesc::DOMConfiguration* configuration_;
-  std::shared_ptr<WriteErrorHandler> handler_;
-};
-
 // Runs one write of the serializer and drops whatever it throws: a failure
 // that counts has been reported to the handler before.
 void serialize(xercesc::DOMLSSerializer& serializer, const xercesc::DOMNode* node, xercesc::DOMLSOutput* output) {
@@ -59,6 +38,26 @@ void serialize(xercesc::DOMLSSerializer& serializer, const xercesc::DOMNode* nod
     serializer.write(node, output);
   } catch (...) {
   }
+}
+
+// The filter step of every write. The DTD flag is read from a new
+// configuration, where it is always true, so the filter never goes in:
+// setDTD by design has no effect on output.
+void filterStep(const std::shared_ptr<xercesc::DOMLSSerializer>& serializer) {
+  const WriterConfiguration configuration(serializer);
+  if (!configuration.getDTD()) serializer->setFilter(&SkipDTD::instance());
+}
+
+// The filter step, then `write` under an error handler of its own (nothing
+// else ever sets one on the serializer), detached again on every path.
+// Gives what the handler recorded.
+template <class Write>
+std::shared_ptr<const detail::ErrorHandler> reported(const std::shared_ptr<xercesc::DOMLSSerializer>& serializer,
+                                                     Write write) {
+  filterStep(serializer);
+  const detail::ErrorHandlerScope scope(serializer->getDomConfig());
+  write();
+  return scope.handler();
 }
 
 }  // namespace
@@ -76,58 +75,40 @@ const char* DOMWriter::getFullyQualifiedVorloTypeName() const { return "zelmar.i
 
 WriterConfiguration* DOMWriter::getConfiguration() const { return new WriterConfiguration(serializer_); }
 
-// The DTD flag is read from a new configuration, where it is always true, so
-// the filter never goes in: setDTD by design has no effect on output.
-void DOMWriter::installFilter() const {
-  const WriterConfiguration configuration(serializer_);
-  if (!configuration.getDTD()) serializer_->setFilter(&SkipDTD::instance());
-}
-
 void DOMWriter::write(const Node* node, FileWriter* fileWriter) const {
   const xercesc::DOMNode* impl = Node::implOf(*this, node);
-  std::shared_ptr<const WriteErrorHandler> handler;
+  std::shared_ptr<const detail::ErrorHandler> report;
   {
     const Output output(ls_->createLSOutput(XMLPlatformUtils::fgMemoryManager));
     if (!fileWriter) raiseXmlError(*this, xml_error::emptyObjectArgument("FileWriter"));
     output->setByteStream(fileWriter->openTarget(*this));
-    installFilter();
-    const HandlerScope scope(serializer_->getDomConfig());
-    handler = scope.handler();
-    serialize(*serializer_, impl, output.get());
+    report = reported(serializer_, [&] { serialize(*serializer_, impl, output.get()); });
   }
-  if (handler->failed) raiseXmlError(*this, xml_error::writeError(handler->message));
+  if (report->failed) raiseXmlError(*this, xml_error::writeError(report->message));
 }
 
 void DOMWriter::writeToURI(const Node* node, const ustring& path) const { writeToURI(node, path, ustring()); }
 
 void DOMWriter::writeToURI(const Node* node, const ustring& path, const ustring& encoding) const {
   const xercesc::DOMNode* impl = Node::implOf(*this, node);
-  std::shared_ptr<const WriteErrorHandler> handler;
+  std::shared_ptr<const detail::ErrorHandler> report;
   {
-    // Destroyed in reverse: the handler goes out, the target is closed, the output released.
+    // Destroyed in reverse: the target is closed, then the output released.
     const Output output(ls_->createLSOutput(XMLPlatformUtils::fgMemoryManager));
     const std::unique_ptr<xercesc::LocalFileFormatTarget> target(makeLocalFileFormatTarget(path));
     output->setByteStream(target.get());
     if (!encoding.empty()) output->setEncoding(XercesString(encoding));
-    installFilter();
-    const HandlerScope scope(serializer_->getDomConfig());
-    handler = scope.handler();
-    serialize(*serializer_, impl, output.get());
+    report = reported(serializer_, [&] { serialize(*serializer_, impl, output.get()); });
   }
-  if (handler->failed) raiseXmlError(*this, xml_error::writeError(handler->message));
+  if (report->failed) raiseXmlError(*this, xml_error::writeError(report->message));
 }
 
 ustring DOMWriter::writeToString(const Node* node) const {
   const xercesc::DOMNode* impl = Node::implOf(*this, node);
-  installFilter();
-  std::shared_ptr<const WriteErrorHandler> handler;
   std::unique_ptr<XMLCh, TextReleaser> text;
-  {
-    const HandlerScope scope(serializer_->getDomConfig());
-    handler = scope.handler();
-    text.reset(serializer_->writeToString(impl, nullptr));  // exceptions pass through
-  }
-  if (handler->failed) raiseXmlError(*this, xml_error::writeError(handler->message));
+  // Exceptions of Xerces pass through here.
+  const auto report = reported(serializer_, [&] { text.reset(serializer_->writeToString(impl, nullptr)); });
+  if (report->failed) raiseXmlError(*this, xml_error::writeError(report->message));
   return XercesString::toUstring(text.get());
 }
 

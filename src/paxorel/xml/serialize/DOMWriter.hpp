@@ -62,8 +62,6 @@ class DOMWriter : public XMLObject {
   xercesc::LocalFileFormatTarget* makeLocalFileFormatTarget(const ustring& path) const;
 
  private:
-  void installFilter() const;
-
   xercesc::DOMImplementation* ls_;
   std::shared_ptr<xercesc::DOMLSSerializer> serializer_;  // shared with the configurations
 };

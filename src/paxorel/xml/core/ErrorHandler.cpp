@@ -1,4 +1,4 @@
-#include <paxorel/xml/parse/ErrorHandler.hpp>
+#include <paxorel/xml/core/ErrorHandler.hpp>
 
 #include <paxorel/xml/core/XercesString.hpp>
 
@@ -25,7 +25,7 @@ bool ErrorHandler::handleError(const xercesc::DOMError& error) {
 
 ErrorHandlerScope::ErrorHandlerScope(xercesc::DOMConfiguration* configuration) : configuration_(configuration) {
   if (configuration_->getParameter(xercesc::XMLUni::fgDOMErrorHandler)) return;
-  handler_ = std::make_unique<ErrorHandler>();
+  handler_ = std::make_shared<ErrorHandler>();
   const xercesc::DOMErrorHandler* handler = handler_.get();
   configuration_->setParameter(xercesc::XMLUni::fgDOMErrorHandler, static_cast<const void*>(handler));
 }

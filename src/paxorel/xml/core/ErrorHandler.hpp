@@ -12,9 +12,9 @@ XERCES_CPP_NAMESPACE_END
 
 namespace paxorel::xml::detail {
 
-/// The parser's own error handler, used when none is configured: it keeps
-/// the last report and stops the parse at the first one, whatever its
-/// severity.
+/// The library's own error handler for one parse or one write, used when no
+/// other is configured: it keeps the last report and stops Xerces at the
+/// first one, whatever its severity.
 class ErrorHandler : public xercesc::DOMErrorHandler {
  public:
   bool handleError(const xercesc::DOMError& error) override;
@@ -25,9 +25,9 @@ class ErrorHandler : public xercesc::DOMErrorHandler {
   ustring column;  ///< likewise
 };
 
-/// Attaches an ErrorHandler to a parser's configuration for one operation,
+/// Attaches an ErrorHandler to a configuration of Xerces for one operation,
 /// unless a handler is configured already, and takes it away again on every
-/// path, so that no parser is ever left pointing at a handler that is gone.
+/// path, so that Xerces is never left pointing at a handler that is gone.
 class ErrorHandlerScope {
  public:
   explicit ErrorHandlerScope(xercesc::DOMConfiguration* configuration);
@@ -35,12 +35,13 @@ class ErrorHandlerScope {
   ErrorHandlerScope(const ErrorHandlerScope&) = delete;
   ErrorHandlerScope& operator=(const ErrorHandlerScope&) = delete;
 
-  /// The attached handler, or null when one was configured beforehand.
-  const ErrorHandler* handler() const noexcept { return handler_.get(); }
+  /// The attached handler, or null when one was configured beforehand; it
+  /// may be kept to be read after the scope.
+  std::shared_ptr<const ErrorHandler> handler() const noexcept { return handler_; }
 
  private:
   xercesc::DOMConfiguration* configuration_;
-  std::unique_ptr<ErrorHandler> handler_;
+  std::shared_ptr<ErrorHandler> handler_;
 };
 
 }  // namespace paxorel::xml::detail
