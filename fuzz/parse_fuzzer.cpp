@@ -1,5 +1,6 @@
 // Feeds arbitrary text to the parser and, when it parses, reads every node of
-// the tree through the public interface: nothing may crash or leak.
+// the tree through the public interface and writes the tree back out:
+// nothing may crash or leak.
 #include <paxorel/xml.hpp>
 
 #include <basis/text/utf.hpp>
@@ -44,6 +45,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   try {
     const std::shared_ptr<Document> document = parseString(text);
     visit(*document, 0);
+    const DOMWriter writer;
+    writer.writeToString(document.get());
     const std::unique_ptr<Node> copy(document->getDocumentElement());
     if (copy) std::unique_ptr<Node>(document->importNode(copy.get()));
     document->normalizeDocument();
