@@ -6,10 +6,12 @@
 #include <basis/text/utf.hpp>
 
 #include <xercesc/dom/DOM.hpp>
+#include <xercesc/framework/LocalFileFormatTarget.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
 
 #include <benchmark/benchmark.h>
 
+#include <cstdio>
 #include <memory>
 #include <string>
 
@@ -130,6 +132,77 @@ void ChildItems_Xerces(benchmark::State& state) {
   }
 }
 
+// The serializer as DOMWriter sets it up.
+std::unique_ptr<xercesc::DOMLSSerializer, void (*)(xercesc::DOMLSSerializer*)> xercesSerializer() {
+  xercesc::DOMLSSerializer* serializer = lsImplementation()->createLSSerializer();
+  serializer->getDomConfig()->setParameter(xercesc::XMLUni::fgDOMWRTXercesPrettyPrint, false);
+  return {serializer, [](xercesc::DOMLSSerializer* s) { s->release(); }};
+}
+
+void WriteToString_Paxorel(benchmark::State& state) {
+  const auto doc = parseString(document(static_cast<int>(state.range(0))));
+  const DOMWriter writer;
+  for (auto _ : state) benchmark::DoNotOptimize(writer.writeToString(doc.get()));
+}
+
+void WriteToString_Xerces(benchmark::State& state) {
+  const auto doc = parseString(document(static_cast<int>(state.range(0))));
+  const auto serializer = xercesSerializer();
+  for (auto _ : state) {
+    XMLCh* text = serializer->writeToString(doc->getImpl());
+    benchmark::DoNotOptimize(ustring(text));  // as the library hands it over
+    xercesc::XMLString::release(&text);
+  }
+}
+
+const ustring outputPath = u"/tmp/paxorel-bench-output.xml";
+
+void WriteToURI_Paxorel(benchmark::State& state) {
+  const auto doc = parseString(document(static_cast<int>(state.range(0))));
+  const DOMWriter writer;
+  for (auto _ : state) writer.writeToURI(doc.get(), outputPath, u"UTF-8");
+  std::remove(basis::text::to_utf8(outputPath).c_str());
+}
+
+void WriteToURI_Xerces(benchmark::State& state) {
+  const auto doc = parseString(document(static_cast<int>(state.range(0))));
+  const auto serializer = xercesSerializer();
+  for (auto _ : state) {
+    xercesc::LocalFileFormatTarget target(outputPath.c_str());
+    xercesc::DOMLSOutput* output = lsImplementation()->createLSOutput();
+    output->setByteStream(&target);
+    output->setEncoding(u"UTF-8");
+    serializer->write(doc->getImpl(), output);
+    output->release();
+  }
+  std::remove(basis::text::to_utf8(outputPath).c_str());
+}
+
+// Every item of the catalogue as an ordered snapshot, walked node by node
+// with each node's name read.
+void EvaluateSnapshot_Paxorel(benchmark::State& state) {
+  const auto doc = parseString(document(static_cast<int>(state.range(0))));
+  for (auto _ : state) {
+    const std::unique_ptr<XPathResult> items(doc->evaluate(u"item", XPathResult::ORDERED_NODE_SNAPSHOT_TYPE()));
+    for (double i = 0; items->snapshotItem(i); ++i) {
+      benchmark::DoNotOptimize(std::unique_ptr<Node>(items->getNodeValue())->getNodeName());
+    }
+  }
+}
+
+void EvaluateSnapshot_Xerces(benchmark::State& state) {
+  const auto doc = parseString(document(static_cast<int>(state.range(0))));
+  xercesc::DOMDocument* tree = doc->getImpl();
+  for (auto _ : state) {
+    xercesc::DOMXPathResult* items = tree->evaluate(u"item", tree->getDocumentElement(), nullptr,
+                                                    xercesc::DOMXPathResult::ORDERED_NODE_SNAPSHOT_TYPE, nullptr);
+    for (XMLSize_t i = 0; items->snapshotItem(i); ++i) {
+      benchmark::DoNotOptimize(ustring(items->getNodeValue()->getNodeName()));
+    }
+    items->release();
+  }
+}
+
 }  // namespace
 
 BENCHMARK(ParseString_Paxorel)->Arg(100)->Arg(5000);
@@ -139,5 +212,11 @@ BENCHMARK(Walk_Paxorel)->Arg(5000);
 BENCHMARK(Walk_Xerces)->Arg(5000);
 BENCHMARK(ChildItems_Paxorel)->Arg(500);
 BENCHMARK(ChildItems_Xerces)->Arg(500);
+BENCHMARK(WriteToString_Paxorel)->Arg(5000);
+BENCHMARK(WriteToString_Xerces)->Arg(5000);
+BENCHMARK(WriteToURI_Paxorel)->Arg(5000);
+BENCHMARK(WriteToURI_Xerces)->Arg(5000);
+BENCHMARK(EvaluateSnapshot_Paxorel)->Arg(5000);
+BENCHMARK(EvaluateSnapshot_Xerces)->Arg(5000);
 
 BENCHMARK_MAIN();
