@@ -39,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     result->getResultTypeName();
     const double length = result->getSnapshotLengthNoError();
     const DOMWriter writer;
-    for (double i = -1; i <= length + 1; ++i) {
+    for (int i = -1; i <= length + 1; ++i) {
       if (length > 0) result->snapshotItem(i);
       if (const std::unique_ptr<Node> node{result->getNodeValueNoError()}) writer.writeToString(node.get());
     }

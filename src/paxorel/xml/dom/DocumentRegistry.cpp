@@ -31,6 +31,7 @@ void DocumentRegistry::registerDocument(const std::shared_ptr<Document>& documen
 }
 
 void DocumentRegistry::unregisterDocument(const Document* document) {
+  callerShares_.erase(document);
   const auto entry = entries_.find(document);
   if (entry == entries_.end()) return;
   // The document may die with its entry: let it die outside the map's erase.
@@ -39,12 +40,22 @@ void DocumentRegistry::unregisterDocument(const Document* document) {
 }
 
 void DocumentRegistry::clear() {
+  callerShares_.clear();
   const Entries doomed = std::move(entries_);
   entries_.clear();
 }
 
 std::shared_ptr<Document> DocumentRegistry::shareWithCaller(Document* document) {
-  return std::shared_ptr<Document>(document, Unregister{});
+  if (!document) return nullptr;
+  const std::shared_ptr<DocumentRegistry> registry = getInstance();
+  registry->at(document);
+  const auto existing = registry->callerShares_.find(document);
+  if (existing != registry->callerShares_.end()) {
+    if (std::shared_ptr<Document> share = existing->second.lock()) return share;
+  }
+  std::shared_ptr<Document> share(document, Unregister{});
+  registry->callerShares_[document] = share;  // on failure the share goes, and the entry with it
+  return share;
 }
 
 }  // namespace paxorel::xml

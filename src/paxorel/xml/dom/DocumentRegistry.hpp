@@ -29,7 +29,11 @@ class DocumentRegistry {
   const Entries& entries() const noexcept { return entries_; }
 
   /// `document`, shared with a caller: when the caller's last copy goes, the
-  /// entry goes. Should sharing fail, the entry is erased at once.
+  /// entry goes. A document has one such family at a time: asked again while
+  /// a caller still holds it, this gives another copy of the same share, so
+  /// that no caller's copy outlives the entry. Null gives null; a document
+  /// without an entry is std::out_of_range ("map::at"). Should sharing fail,
+  /// the entry is erased at once.
   static std::shared_ptr<Document> shareWithCaller(Document* document);
 
  private:
@@ -37,6 +41,7 @@ class DocumentRegistry {
   void clear();
 
   Entries entries_;
+  std::map<const Document*, std::weak_ptr<Document>> callerShares_;
 };
 
 }  // namespace paxorel::xml

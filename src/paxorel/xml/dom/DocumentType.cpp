@@ -49,6 +49,16 @@ void DocumentType::noteAdoption(const Node& node) {
   if (auto* release = std::get_deleter<OrphanRelease>(node.getOwnerDocWrapper())) release->adopted = true;
 }
 
+bool DocumentType::isOrphan(const xercesc::DOMNode& node) {
+  return node.getNodeType() == xercesc::DOMNode::DOCUMENT_TYPE_NODE && !node.getOwnerDocument();
+}
+
+DocumentType* DocumentType::copyOrphan(const xercesc::DOMNode& orphan) {
+  const auto& type = static_cast<const DOMDocumentType&>(orphan);
+  return new DocumentType(XercesString::toUstring(type.getName()), XercesString::toUstring(type.getPublicId()),
+                          XercesString::toUstring(type.getSystemId()));
+}
+
 const char* DocumentType::getFullyQualifiedVorloTypeName() const { return "zelmar.io.xml.dom.DocumentType"; }
 
 ustring DocumentType::getName() const { return XercesString::toUstring(implAs<DOMDocumentType>()->getName()); }

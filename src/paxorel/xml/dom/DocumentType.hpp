@@ -19,6 +19,13 @@ class DocumentType : public Node {
   /// document has taken `node` over; any other node is left alone. The child
   /// operations of Node call it.
   static void noteAdoption(const Node& node);
+  /// Whether `node` is a document type that no document has taken yet.
+  /// Xerces needs a document to copy a node or to give its text, so Node
+  /// answers those two itself for such a node.
+  static bool isOrphan(const xercesc::DOMNode& node);
+  /// A copy of an orphan document type: a new one of the same name and ids,
+  /// as the constructor above makes it.
+  static DocumentType* copyOrphan(const xercesc::DOMNode& orphan);
 
   const char* getFullyQualifiedVorloTypeName() const override;
 

@@ -95,7 +95,11 @@ ustring Node::getLocalName() const { return XercesString::toUstring(impl()->getL
 ustring Node::getNamespaceURI() const { return XercesString::toUstring(impl()->getNamespaceURI()); }
 ustring Node::getPrefix() const { return XercesString::toUstring(impl()->getPrefix()); }
 ustring Node::getBaseURI() const { return XercesString::toUstring(impl()->getBaseURI()); }
-ustring Node::getTextContent() const { return XercesString::toUstring(impl()->getTextContent()); }
+ustring Node::getTextContent() const {
+  const DOMNode* node = impl();
+  if (DocumentType::isOrphan(*node)) return {};  // a document type has no text, in a document or not
+  return XercesString::toUstring(node->getTextContent());
+}
 
 double Node::getNodeType() const { return impl()->getNodeType(); }
 bool Node::hasChildNodes() const { return impl()->hasChildNodes(); }
@@ -324,6 +328,7 @@ Node* Node::removeChild(Node* oldChild) {
 }
 
 Node* Node::cloneNode(bool deep) const {
+  if (DocumentType::isOrphan(*impl())) return DocumentType::copyOrphan(*impl());
   DOMNode* copy = impl()->cloneNode(deep);
   if (copy && copy->getNodeType() == DOMNode::DOCUMENT_NODE) {
     // A document's copy is answered by the document itself; the copy that

@@ -138,7 +138,7 @@ class Node : public XMLObject {
   /// keeps the node.
   Node* removeChild(Node* oldChild);
   /// A copy without a parent, in the same document. A document's copy is the
-  /// document itself.
+  /// document itself; a document type of no document copies into another one.
   Node* cloneNode(bool deep) const;
   /// Xerces's DOMException passes through.
   void normalize();

@@ -94,6 +94,22 @@ TEST(DocumentRegistry, IsOneObjectThatKeepsTheFirstEntryAndIgnoresAbsentKeys) {
   EXPECT_THROW(registry->at(nullptr), std::out_of_range);
 }
 
+// Two independent shares would let the first one dropped take the entry,
+// and the document with it, from under the second (found by fuzzing).
+TEST(DocumentRegistry, SharingADocumentAgainGivesTheSameShare) {
+  auto first = parseString(u"<r/>");
+  Document* document = first.get();
+  auto second = DocumentRegistry::shareWithCaller(document);
+  EXPECT_FALSE(first.owner_before(second) || second.owner_before(first));
+  first.reset();
+  EXPECT_TRUE(isRegistered(document));
+  EXPECT_EQ(own(second->getDocumentElement())->getNodeName(), u"r");
+  second.reset();
+  EXPECT_FALSE(isRegistered(document));
+  EXPECT_EQ(DocumentRegistry::shareWithCaller(nullptr), nullptr);
+  EXPECT_THROW(DocumentRegistry::shareWithCaller(document), std::out_of_range);  // no entry: gone
+}
+
 // LeakSanitizer would miss a constructed doctype that is never released
 // (Xerces's static helper document, which holds its strings, still points at
 // it), so AddressSanitizer's poisoning of freed memory tells.
@@ -117,6 +133,19 @@ TEST(DocumentType, AConstructedDoctypeIsReleasedWithTheLastWrapperMadeFromIt) {
 #if defined(__SANITIZE_ADDRESS__)
   EXPECT_TRUE(__asan_address_is_poisoned(node));
 #endif
+}
+
+// Xerces dereferences the missing document for both (found by fuzzing).
+TEST(DocumentType, AConstructedDoctypeHasNoTextAndCopiesIntoAnotherOrphan) {
+  const DocumentType doctype(u"r", u"-//P//EN", u"r.dtd");
+  EXPECT_EQ(doctype.getTextContent(), u"");
+  const auto copy = own<DocumentType>(doctype.cloneNode(true));
+  EXPECT_FALSE(copy->isSameNode(&doctype));
+  EXPECT_EQ(copy->getName() + copy->getPublicId() + copy->getSystemId(), u"r-//P//ENr.dtd");
+  EXPECT_EQ(copy->getOwnerDocument(), nullptr);
+  const auto document = createDocument();
+  document->appendChild(copy.get());  // a copy is adopted like the original
+  EXPECT_EQ(own<DocumentType>(document->getDoctype())->getName(), u"r");
 }
 
 TEST(DocumentType, AnAdoptedDoctypeIsLeftToItsDocument) {
