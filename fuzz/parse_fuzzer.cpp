@@ -9,6 +9,7 @@
 
 #include <fuzzer/FuzzedDataProvider.h>
 
+#include <unistd.h>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -16,7 +17,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unistd.h>
 #include <vector>
 
 using namespace paxorel::xml;
@@ -48,18 +48,30 @@ void visit(Node& node, int depth) {
 void configure(ParserConfiguration& options, std::uint32_t bits) {
   using Setter = void (ParserConfiguration::*)(bool);
   static constexpr Setter setters[] = {
-      &ParserConfiguration::setNamespaces, &ParserConfiguration::setElementContentWhitespace,
-      &ParserConfiguration::setLoadExternalDTD, &ParserConfiguration::setDisableDefaultEntityResolution,
-      &ParserConfiguration::setDisallowDoctype, &ParserConfiguration::setEntities,
-      &ParserConfiguration::setStandardURIConformant, &ParserConfiguration::setValidate,
-      &ParserConfiguration::setSkipDTDValidation, &ParserConfiguration::setValidationErrorAsFatal,
-      &ParserConfiguration::setContinueAfterFatalError, &ParserConfiguration::setComments,
-      &ParserConfiguration::setDoXInclude, &ParserConfiguration::setLoadSchema,
-      &ParserConfiguration::setSchema, &ParserConfiguration::setValidateIfSchema,
-      &ParserConfiguration::setSchemaFullChecking, &ParserConfiguration::setDatatypeNormalization,
-      &ParserConfiguration::setIgnoreAnnotations, &ParserConfiguration::setValidateAnnotations,
-      &ParserConfiguration::setGenerateSyntheticAnnotations, &ParserConfiguration::setCacheGrammarFromParse,
-      &ParserConfiguration::setUseCachedGrammarInParse, &ParserConfiguration::setHandleMultipleImports,
+      &ParserConfiguration::setNamespaces,
+      &ParserConfiguration::setElementContentWhitespace,
+      &ParserConfiguration::setLoadExternalDTD,
+      &ParserConfiguration::setDisableDefaultEntityResolution,
+      &ParserConfiguration::setDisallowDoctype,
+      &ParserConfiguration::setEntities,
+      &ParserConfiguration::setStandardURIConformant,
+      &ParserConfiguration::setValidate,
+      &ParserConfiguration::setSkipDTDValidation,
+      &ParserConfiguration::setValidationErrorAsFatal,
+      &ParserConfiguration::setContinueAfterFatalError,
+      &ParserConfiguration::setComments,
+      &ParserConfiguration::setDoXInclude,
+      &ParserConfiguration::setLoadSchema,
+      &ParserConfiguration::setSchema,
+      &ParserConfiguration::setValidateIfSchema,
+      &ParserConfiguration::setSchemaFullChecking,
+      &ParserConfiguration::setDatatypeNormalization,
+      &ParserConfiguration::setIgnoreAnnotations,
+      &ParserConfiguration::setValidateAnnotations,
+      &ParserConfiguration::setGenerateSyntheticAnnotations,
+      &ParserConfiguration::setCacheGrammarFromParse,
+      &ParserConfiguration::setUseCachedGrammarInParse,
+      &ParserConfiguration::setHandleMultipleImports,
   };
   for (const Setter set : setters) {
     (options.*set)((bits & 1U) != 0);

@@ -50,8 +50,10 @@ class Session {
       case 1: keep(document()->createElementNS(pick(namespaces), pick(names))); break;
       case 2: keep(document()->createAttributeNS(pick(namespaces), pick(names))); break;
       case 3: keep(document()->createTextNode(u"t\u00e9xt")); break;
-      case 4: keep(input_.ConsumeBool() ? static_cast<Node*>(document()->createComment(u"c"))
-                                        : document()->createProcessingInstruction(u"pi", u"d")); break;
+      case 4:
+        keep(input_.ConsumeBool() ? static_cast<Node*>(document()->createComment(u"c"))
+                                  : document()->createProcessingInstruction(u"pi", u"d"));
+        break;
       case 5: keep(document()->createDocumentFragment()); break;
       case 6: keep(new DocumentType(pick(names), u"", u"")); break;
       case 7: keep(document()->importNodeBase(node(), input_.ConsumeBool())); break;

@@ -1,5 +1,7 @@
 #include <vorlo/factory/basic/BindingRegistry.hpp>
 
+#include <vorlo/factory/full/Wrappable.hpp>
+
 namespace vorlo::factory::basic {
 
 BindingRegistry& BindingRegistry::instance() {
@@ -7,16 +9,16 @@ BindingRegistry& BindingRegistry::instance() {
   return *registry;
 }
 
-void BindingRegistry::bind(const full::Wrappable* object, void* hostObject) { bindings_[object] = hostObject; }
+void BindingRegistry::bind(const full::Wrappable* object, void* hostObject) {
+  bindings_[object] = hostObject;
+  object->bound_ = true;
+}
 
 void* BindingRegistry::find(const full::Wrappable* object) const {
   const auto found = bindings_.find(object);
   return found == bindings_.end() ? nullptr : found->second;
 }
 
-void BindingRegistry::retract(const full::Wrappable* object) {
-  // Most wrappers are never bound: leave the map alone then.
-  if (!bindings_.empty()) bindings_.erase(object);
-}
+void BindingRegistry::retract(const full::Wrappable* object) { bindings_.erase(object); }
 
 }  // namespace vorlo::factory::basic

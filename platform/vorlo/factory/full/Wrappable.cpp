@@ -4,6 +4,8 @@
 
 namespace vorlo::factory::full {
 
-Wrappable::~Wrappable() { basic::BindingRegistry::instance().retract(this); }
+Wrappable::~Wrappable() {
+  if (bound_) basic::BindingRegistry::instance().retract(this);
+}
 
 }  // namespace vorlo::factory::full

@@ -1,5 +1,9 @@
 #pragma once
 
+namespace vorlo::factory::basic {
+class BindingRegistry;
+}
+
 namespace vorlo::factory::full {
 
 /// Base of every native object that a host object may stand for. When the
@@ -9,8 +13,12 @@ class Wrappable {
   Wrappable() = default;
   Wrappable(const Wrappable&) = delete;
   Wrappable& operator=(const Wrappable&) = delete;
-  /// Withdraws the object from the BindingRegistry.
+  /// Withdraws the object from the BindingRegistry, if it was ever bound.
   virtual ~Wrappable();
+
+ private:
+  friend class basic::BindingRegistry;
+  mutable bool bound_ = false;  // set by BindingRegistry::bind: most objects never are
 };
 
 }  // namespace vorlo::factory::full

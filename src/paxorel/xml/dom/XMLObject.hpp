@@ -2,6 +2,8 @@
 
 #include <vorlo/factory/full/Wrappable.hpp>
 
+#include <cstddef>
+
 namespace paxorel::xml {
 
 /// Base of every wrapper object of the library.
@@ -15,6 +17,12 @@ class XMLObject : public vorlo::factory::full::Wrappable {
  public:
   XMLObject() = default;
   ~XMLObject() override;
+
+  /// Wrappers come and go by the thousand: their memory is recycled
+  /// (detail::WrapperCache). Only the sized delete is declared, so that it is
+  /// the one called and knows the block's size.
+  static void* operator new(std::size_t size);  // NOLINT(cert-dcl54-cpp,misc-new-delete-overloads)
+  static void operator delete(void* object, std::size_t size) noexcept;
 
   /// The host class name, "zelmar.io.xml.dom.Object" here.
   virtual const char* getFullyQualifiedVorloTypeName() const;

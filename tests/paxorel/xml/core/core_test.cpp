@@ -8,8 +8,13 @@
 
 #include <gtest/gtest.h>
 
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/asan_interface.h>
+#endif
+
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <set>
 
 using namespace paxorel;
@@ -96,4 +101,18 @@ TEST(Errors, TheHostWayKeepsIdentifierAndArgumentsAndFinishesTheText) {
     return;
   }
   FAIL();
+}
+
+// A wrapper's block is handed to the next wrapper of its size; meanwhile it
+// stays poisoned, so that AddressSanitizer still reports a use after delete.
+TEST(WrapperCache, RecyclesTheBlocksOfDeletedWrappers) {
+  const auto document = paxorel::xml::parseString(u"<r><a/></r>");
+  auto* first = document->getFirstChild();
+  delete first;
+#if defined(__SANITIZE_ADDRESS__)
+  EXPECT_TRUE(__asan_address_is_poisoned(first));
+#endif
+  const std::unique_ptr<paxorel::xml::Node> second(document->getFirstChild());
+  EXPECT_EQ(static_cast<void*>(second.get()), static_cast<void*>(first));
+  EXPECT_EQ(second->getNodeName(), u"r");
 }

@@ -1,0 +1,62 @@
+#include <paxorel/xml/core/WrapperCache.hpp>
+
+#include <new>
+
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/asan_interface.h>
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#include <sanitizer/asan_interface.h>
+#endif
+#endif
+#ifndef ASAN_POISON_MEMORY_REGION
+#define ASAN_POISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
+#define ASAN_UNPOISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
+#endif
+
+namespace paxorel::xml::detail {
+
+namespace {
+
+// Trivially destructible, so it serves wrappers that die during process exit
+// too. Each kept block ends with the address of the next one, which stays
+// unpoisoned for LeakSanitizer to follow; the rest of the block, where a
+// wrapper's virtual table pointer and most of its members lived, is poisoned.
+struct FreeLists {
+  void* heads[WrapperCache::sizes];
+  std::size_t counts[WrapperCache::sizes];
+};
+
+FreeLists lists;
+
+constexpr std::size_t sizeIndex(std::size_t size) { return (size - 1) / WrapperCache::grain; }
+
+constexpr std::size_t blockSize(std::size_t index) { return (index + 1) * WrapperCache::grain; }
+
+void*& next(void* block, std::size_t index) {
+  return *reinterpret_cast<void**>(static_cast<char*>(block) + blockSize(index) - sizeof(void*));
+}
+
+}  // namespace
+
+void* WrapperCache::allocate(std::size_t size) {
+  const std::size_t index = sizeIndex(size);
+  if (index >= sizes) return ::operator new(size);
+  void* block = lists.heads[index];
+  if (!block) return ::operator new(blockSize(index));
+  ASAN_UNPOISON_MEMORY_REGION(block, blockSize(index));
+  lists.heads[index] = next(block, index);
+  --lists.counts[index];
+  return block;
+}
+
+void WrapperCache::release(void* block, std::size_t size) noexcept {
+  const std::size_t index = sizeIndex(size);
+  if (index >= sizes || lists.counts[index] == kept) return ::operator delete(block);
+  next(block, index) = lists.heads[index];
+  lists.heads[index] = block;
+  ++lists.counts[index];
+  ASAN_POISON_MEMORY_REGION(block, blockSize(index) - sizeof(void*));
+}
+
+}  // namespace paxorel::xml::detail
