@@ -9,6 +9,11 @@
 #include <sanitizer/asan_interface.h>
 #endif
 #endif
+#if __has_include(<valgrind/valgrind.h>)
+#include <valgrind/valgrind.h>
+#else
+#define RUNNING_ON_VALGRIND 0
+#endif
 #ifndef ASAN_POISON_MEMORY_REGION
 #define ASAN_POISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
 #define ASAN_UNPOISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
@@ -18,13 +23,14 @@ namespace paxorel::xml::detail {
 
 namespace {
 
-// Trivially destructible, so it serves wrappers that die during process exit
-// too. Each kept block ends with the address of the next one, which stays
+// Trivially destructible, so it stays usable until the very end of the
+// process. Each kept block ends with the address of the next one, which stays
 // unpoisoned for LeakSanitizer to follow; the rest of the block, where a
 // wrapper's virtual table pointer and most of its members lived, is poisoned.
 struct FreeLists {
   void* heads[WrapperCache::sizes];
   std::size_t counts[WrapperCache::sizes];
+  bool closed;  // blocks go straight back to the heap
 };
 
 FreeLists lists;
@@ -36,6 +42,26 @@ constexpr std::size_t blockSize(std::size_t index) { return (index + 1) * Wrappe
 void*& next(void* block, std::size_t index) {
   return *reinterpret_cast<void**>(static_cast<char*>(block) + blockSize(index) - sizeof(void*));
 }
+
+// Keeps the cache closed in a process that runs under valgrind, whose leak
+// check and reports of use after free need every wrapper in a block of its
+// own; and hands the kept blocks back to the heap at exit, so that a leak
+// check sees nothing of them.
+const struct CacheLifetime {
+  CacheLifetime() { lists.closed = RUNNING_ON_VALGRIND != 0; }
+  CacheLifetime(const CacheLifetime&) = delete;
+  CacheLifetime& operator=(const CacheLifetime&) = delete;
+  ~CacheLifetime() {
+    lists.closed = true;
+    for (std::size_t index = 0; index < WrapperCache::sizes; ++index) {
+      while (void* block = lists.heads[index]) {
+        ASAN_UNPOISON_MEMORY_REGION(block, blockSize(index));
+        lists.heads[index] = next(block, index);
+        ::operator delete(block);
+      }
+    }
+  }
+} cacheLifetime;
 
 }  // namespace
 
@@ -52,7 +78,7 @@ void* WrapperCache::allocate(std::size_t size) {
 
 void WrapperCache::release(void* block, std::size_t size) noexcept {
   const std::size_t index = sizeIndex(size);
-  if (index >= sizes || lists.counts[index] == kept) return ::operator delete(block);
+  if (index >= sizes || lists.counts[index] == kept || lists.closed) return ::operator delete(block);
   next(block, index) = lists.heads[index];
   lists.heads[index] = block;
   ++lists.counts[index];

@@ -7,10 +7,10 @@ namespace paxorel::xml::detail {
 /// The memory of wrapper objects. Navigation makes a wrapper per step and
 /// callers drop most of them at once, so a few freed blocks of each small
 /// size are kept and handed out again before the heap is asked. At most
-/// `kept` blocks per size are kept, for the life of the process. Like the
+/// `kept` blocks per size are kept; they go back to the heap at exit. Like the
 /// rest of the library it takes no lock: calls come one at a time. Under
 /// AddressSanitizer a kept block stays poisoned, so a wrapper used after its
-/// deletion is still reported.
+/// deletion is still reported; under valgrind nothing is kept.
 class WrapperCache {
  public:
   static constexpr std::size_t grain = 16;  ///< block sizes are multiples of this
