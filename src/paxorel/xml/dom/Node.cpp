@@ -197,11 +197,12 @@ Node* Node::item(double index) {
 
 Node* Node::child(double index) { return item(index - 1.0); }
 
+// The children in the order of the child list, taken by sibling links: the
+// list's own item(i) and getLength walk the siblings from the first each time.
 std::vector<Node*> Node::getChildren() const {
-  const xercesc::DOMNodeList* children = impl()->getChildNodes();
   std::vector<std::unique_ptr<Node>> made;  // freed again should a later step fail
-  for (XMLSize_t i = 0; i < children->getLength(); ++i) {
-    made.emplace_back(downcast(children->item(i), getOwnerDocWrapper()));
+  for (DOMNode* child = impl()->getFirstChild(); child; child = child->getNextSibling()) {
+    made.emplace_back(downcast(child, getOwnerDocWrapper()));
   }
   std::vector<Node*> result;
   result.reserve(made.size());
