@@ -60,10 +60,9 @@ Prepare onTree(Task task) {
   return [task](const Input& input) -> Work {
     static std::map<std::string, std::shared_ptr<xmlDoc>> kept;
     return [task, document = keep(kept, input, [&] {
-              return std::shared_ptr<xmlDoc>(checked(xmlReadMemory(input.utf8().data(),
-                                                                   static_cast<int>(input.utf8().size()), nullptr,
-                                                                   "UTF-8", options)));
-            })] { return task(document.get()); };
+                    return std::shared_ptr<xmlDoc>(checked(xmlReadMemory(
+                        input.utf8().data(), static_cast<int>(input.utf8().size()), nullptr, "UTF-8", options)));
+                  })] { return task(document.get()); };
   };
 }
 

@@ -60,7 +60,7 @@ struct Sample {
 
 const std::vector<Sample>& samples() {
   static const std::vector<Sample> made = {
-      {Input(Input::Shape::catalogue, 1'000'000), 0}, {Input(Input::Shape::catalogue, 10'000'000), 0},
+      {Input(Input::Shape::catalogue, 1'000'000), 0},   {Input(Input::Shape::catalogue, 10'000'000), 0},
       {Input(Input::Shape::catalogue, 100'000'000), 3}, {Input(Input::Shape::deep, 10'000), 0},
       {Input(Input::Shape::wide, 1'000'000), 0},
   };
@@ -99,18 +99,22 @@ double projectedSeconds(const Prepare& prepare, const Input& input) {
   return quickest(input);
 }
 
-// Registers "task/implementation/input"; an exception from `body` fails that
-// benchmark with its message rather than ending the run.
+std::string nameOf(const std::string& task, const Implementation& implementation, const Input& input) {
+  return task + "/" + implementation.name + "/" + input.name();
+}
+
+// Registers `body` by nameOf; an exception from it fails that benchmark with
+// its message rather than ending the run.
 benchmark::internal::Benchmark* add(const std::string& task, const Implementation& implementation, const Input& input,
                                     std::function<void(benchmark::State&)> body) {
-  const std::string name = task + "/" + implementation.name + "/" + input.name();
-  auto* added = benchmark::RegisterBenchmark(name.c_str(), [body = std::move(body)](benchmark::State& state) {
-    try {
-      body(state);
-    } catch (const std::exception& e) {
-      state.SkipWithError(e.what());
-    }
-  });
+  auto* added = benchmark::RegisterBenchmark(nameOf(task, implementation, input).c_str(),
+                                             [body = std::move(body)](benchmark::State& state) {
+                                               try {
+                                                 body(state);
+                                               } catch (const std::exception& e) {
+                                                 state.SkipWithError(e.what());
+                                               }
+                                             });
   return added->Unit(benchmark::kMillisecond);
 }
 
@@ -118,22 +122,22 @@ void addTimed(const Task& task, const Implementation& implementation, const Samp
   const auto found = implementation.tasks.find(task.name);
   if (found == implementation.tasks.end()) return;
   const Input& input = sample.input;
-  auto* added = add(task.name, implementation, input,
-                    [prepare = found->second, &input, task, projected = std::optional<double>()](
-                        benchmark::State& state) mutable {
-                      if (task.quadratic) {
-                        if (!projected) projected = projectedSeconds(prepare, input);
-                        if (*projected > projectionLimit) {
-                          const std::string why = std::string(task.quadratic) + ", " +
-                                                  std::to_string(std::lround(*projected)) + " s a run projected";
-                          state.SkipWithError(why.c_str());
-                          return;
-                        }
-                      }
-                      const Work work = prepare(input);
-                      for (auto _ : state) benchmark::DoNotOptimize(work());
-                      state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(input.utf8().size()));
-                    });
+  // Mutable: the projection is made at the first repetition and kept.
+  const auto body = [prepare = found->second, &input, task, name = nameOf(task.name, implementation, input),
+                     projected = std::optional<double>()](benchmark::State& state) mutable {
+    if (task.quadratic) {
+      if (!projected) projected = projectedSeconds(prepare, input);
+      if (*projected > projectionLimit) {
+        std::cerr << name << ": " << std::lround(*projected) << " s a run projected, left out\n";
+        state.SkipWithError(task.quadratic);
+        return;
+      }
+    }
+    const Work work = prepare(input);
+    for (auto _ : state) benchmark::DoNotOptimize(work());
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(input.utf8().size()));
+  };
+  auto* added = add(task.name, implementation, input, body);
   if (sample.repetitions) added->Iterations(1)->Repetitions(sample.repetitions);
 }
 

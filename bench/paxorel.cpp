@@ -47,9 +47,8 @@ const auto children = [](Node& node, const auto& visit) {
 // A task on the input's tree.
 template <class Task>
 Prepare onTree(Task task) {
-  return [task](const Input& input) -> Work {
-    return [task, document = paxorelTree(input)] { return task(*document); };
-  };
+  return
+      [task](const Input& input) -> Work { return [task, document = paxorelTree(input)] { return task(*document); }; };
 }
 
 template <class EachChild>

@@ -32,7 +32,9 @@ const auto siblings = [](pugi::xml_node node, const auto& visit) {
   for (pugi::xml_node child = node.first_child(); child; child = child.next_sibling()) visit(child);
 };
 
-std::size_t walkAll(const pugi::xml_document& document) { return walk<pugi::xml_node>(document.root(), read, siblings); }
+std::size_t walkAll(const pugi::xml_document& document) {
+  return walk<pugi::xml_node>(document.root(), read, siblings);
+}
 
 struct StringWriter : pugi::xml_writer {
   std::string text;
@@ -44,10 +46,10 @@ Prepare onTree(Task task) {
   return [task](const Input& input) -> Work {
     static std::map<std::string, std::shared_ptr<pugi::xml_document>> kept;
     return [task, document = keep(kept, input, [&] {
-              auto parsed = std::make_shared<pugi::xml_document>();
-              check(parsed->load_buffer(input.utf8().data(), input.utf8().size(), options, pugi::encoding_utf8));
-              return parsed;
-            })] { return task(*document); };
+                    auto parsed = std::make_shared<pugi::xml_document>();
+                    check(parsed->load_buffer(input.utf8().data(), input.utf8().size(), options, pugi::encoding_utf8));
+                    return parsed;
+                  })] { return task(*document); };
   };
 }
 

@@ -49,8 +49,8 @@ const Table::Cell* Table::find(const std::string& task, const std::string& imple
 
 std::string Table::render(const std::vector<std::string>& tasks, const std::vector<std::string>& inputs) const {
   using Row = std::vector<std::string>;
-  std::vector<Row> rows = {{"task", "input", "Xerces", "paxorel", "paxorel/Xerces", "pugixml/Xerces", "libxml2/Xerces",
-                            "note"}};
+  std::vector<Row> rows = {
+      {"task", "input", "Xerces", "paxorel", "paxorel/Xerces", "pugixml/Xerces", "libxml2/Xerces", "note"}};
   const auto value = [](const Cell* cell) -> std::optional<double> {
     if (!cell || !cell->failure.empty() || cell->samples.empty()) return std::nullopt;
     return median(cell->samples);
@@ -72,7 +72,7 @@ std::string Table::render(const std::vector<std::string>& tasks, const std::vect
       const auto amount = [&](double own) { return quantity(task, own); };
       const auto ratio = [&](double own) {
         const std::optional<double> base = value(xerces);
-        return base && *base > 0 ? printed("%.2f", own / *base) : "n/a";
+        return base && *base > 0 ? printed("%.3g", own / *base) : "n/a";
       };
       Row row = {task, input, shown(xerces, amount), shown(find(task, "paxorel", input), amount)};
       bool any = xerces != nullptr;

@@ -3,8 +3,8 @@
 // into ustrings, as the library returns them.
 #include "implementations.hpp"
 
-#include <paxorel/xml/dom/Document.hpp>
 #include <paxorel/xml/core/XercesGuard.hpp>
+#include <paxorel/xml/dom/Document.hpp>
 
 #include <basis/text/utf.hpp>
 
@@ -155,11 +155,11 @@ Implementation xerces() {
              return std::size_t{serializer().write(document, output.get())};
            })},
           {"evaluate", onTree([path = basis::text::from_utf8(itemsPath)](DOMDocument* document) {
-             const Owned<DOMXPathResult> found(document->evaluate(path.c_str(), document->getDocumentElement(),
-                                                                  nullptr, DOMXPathResult::ORDERED_NODE_SNAPSHOT_TYPE,
-                                                                  nullptr));
+             const Owned<DOMXPathResult> found(document->evaluate(path.c_str(), document->getDocumentElement(), nullptr,
+                                                                  DOMXPathResult::ORDERED_NODE_SNAPSHOT_TYPE, nullptr));
              std::size_t seen = 0;
-             for (XMLSize_t i = 0; found->snapshotItem(i); ++i) seen += ustring(found->getNodeValue()->getNodeName()).size();
+             for (XMLSize_t i = 0; found->snapshotItem(i); ++i)
+               seen += ustring(found->getNodeValue()->getNodeName()).size();
              return seen;
            })},
           {"getNodeIndex",
