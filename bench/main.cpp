@@ -20,6 +20,7 @@
 #include <cmath>
 #include <fstream>
 #include <functional>
+#include <iomanip>
 #include <iostream>
 #include <optional>
 #include <stdexcept>
@@ -31,7 +32,7 @@ namespace {
 
 // A task whose `quadratic` note is set may grow with the square of the
 // longest child list on some implementations; it runs on an input only if
-// a projection of its time stays under projectionLimit seconds.
+// a projection of its time (see project) stays under projectionLimit seconds.
 struct Task {
   const char* name;
   const char* quadratic;
@@ -78,11 +79,17 @@ double seconds(const Work& work) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// The seconds that one run of the task on `input` would take, projected
-// from copies of the input that double in size until a run takes 50 ms:
-// the growth between the last two gives the exponent. A task that stays
-// quicker than that is timed on the input itself.
-double projectedSeconds(const Prepare& prepare, const Input& input) {
+// How one run of a task on an input is expected to grow and how long it
+// would take.
+struct Projection {
+  double exponent;
+  double seconds;
+};
+
+// Projects from copies of the input that double in size until a run takes
+// 0.2 s: the growth between the last two gives the exponent. A task that
+// stays quicker than that is timed on the input itself.
+Projection project(const Prepare& prepare, const Input& input) {
   const auto quickest = [&](const Input& on) {
     const Work work = prepare(on);
     return std::min({seconds(work), seconds(work), seconds(work)});
@@ -90,13 +97,13 @@ double projectedSeconds(const Prepare& prepare, const Input& input) {
   double previous = 0;
   for (std::size_t divisor = 1 << 12; divisor > 1; divisor /= 2) {
     const double taken = quickest(input.scaledDown(divisor));
-    if (taken > 0.05 && previous > 0) {
+    if (taken > 0.2 && previous > 0) {
       const double exponent = std::clamp(std::log2(taken / previous), 1.0, 3.0);
-      return taken * std::pow(static_cast<double>(divisor), exponent);
+      return {exponent, taken * std::pow(static_cast<double>(divisor), exponent)};
     }
     previous = taken;
   }
-  return quickest(input);
+  return {1, quickest(input)};
 }
 
 std::string nameOf(const std::string& task, const Implementation& implementation, const Input& input) {
@@ -124,11 +131,16 @@ void addTimed(const Task& task, const Implementation& implementation, const Samp
   const Input& input = sample.input;
   // Mutable: the projection is made at the first repetition and kept.
   const auto body = [prepare = found->second, &input, task, name = nameOf(task.name, implementation, input),
-                     projected = std::optional<double>()](benchmark::State& state) mutable {
+                     projected = std::optional<Projection>()](benchmark::State& state) mutable {
     if (task.quadratic) {
-      if (!projected) projected = projectedSeconds(prepare, input);
-      if (*projected > projectionLimit) {
-        std::cerr << name << ": " << std::lround(*projected) << " s a run projected, left out\n";
+      if (!projected) {
+        projected = project(prepare, input);
+        if (projected->seconds > projectionLimit) {
+          std::cerr << name << ": grows as n^" << std::setprecision(2) << projected->exponent << ", "
+                    << std::lround(projected->seconds) << " s a run projected, left out\n";
+        }
+      }
+      if (projected->seconds > projectionLimit) {
         state.SkipWithError(task.quadratic);
         return;
       }

@@ -72,7 +72,8 @@ std::string Table::render(const std::vector<std::string>& tasks, const std::vect
       const auto amount = [&](double own) { return quantity(task, own); };
       const auto ratio = [&](double own) {
         const std::optional<double> base = value(xerces);
-        return base && *base > 0 ? printed("%.3g", own / *base) : "n/a";
+        if (!base || *base <= 0) return std::string("n/a");
+        return printed(own / *base < 100 ? "%.3g" : "%.0f", own / *base);
       };
       Row row = {task, input, shown(xerces, amount), shown(find(task, "paxorel", input), amount)};
       bool any = xerces != nullptr;

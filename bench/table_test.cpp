@@ -10,9 +10,10 @@ TEST(Table, MediansAndRatiosToXerces) {
   for (double seconds : {0.001, 0.003, 0.002}) table.addSample("walk/xerces/1MB", seconds);
   for (double seconds : {0.004, 0.006, 0.005, 0.1}) table.addSample("walk/paxorel/1MB", seconds);
   table.addSample("walk/pugixml/1MB", 0.0001);
+  table.addSample("walk/libxml2/1MB", 1.23456);
   EXPECT_EQ(table.render({"walk"}, {"1MB"}),
             "task  input  Xerces  paxorel  paxorel/Xerces  pugixml/Xerces  libxml2/Xerces  note\n"
-            "walk  1MB      2 ms   5.5 ms            2.75            0.05\n");
+            "walk  1MB      2 ms   5.5 ms            2.75            0.05             617\n");
 }
 
 TEST(Table, FailuresShowAsNotAvailableWithTheirReasonOnce) {
