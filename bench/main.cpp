@@ -52,15 +52,15 @@ const Task tasks[] = {
 
 constexpr double projectionLimit = 10;
 
-// The largest input takes seconds per run: one run per repetition, and
-// fewer repetitions than the others.
-struct Sample {
+// An input and how often to time each task on it. The largest takes
+// seconds per run: one run per repetition, and fewer repetitions.
+struct Workload {
   Input input;
   int repetitions;  // 0 for as many as the command line asks
 };
 
-const std::vector<Sample>& samples() {
-  static const std::vector<Sample> made = {
+const std::vector<Workload>& workloads() {
+  static const std::vector<Workload> made = {
       {Input(Input::Shape::catalogue, 1'000'000), 0},   {Input(Input::Shape::catalogue, 10'000'000), 0},
       {Input(Input::Shape::catalogue, 100'000'000), 3}, {Input(Input::Shape::deep, 10'000), 0},
       {Input(Input::Shape::wide, 1'000'000), 0},
@@ -114,21 +114,21 @@ std::string nameOf(const std::string& task, const Implementation& implementation
 // its message rather than ending the run.
 benchmark::internal::Benchmark* add(const std::string& task, const Implementation& implementation, const Input& input,
                                     std::function<void(benchmark::State&)> body) {
-  auto* added = benchmark::RegisterBenchmark(nameOf(task, implementation, input).c_str(),
-                                             [body = std::move(body)](benchmark::State& state) {
-                                               try {
-                                                 body(state);
-                                               } catch (const std::exception& e) {
-                                                 state.SkipWithError(e.what());
-                                               }
-                                             });
-  return added->Unit(benchmark::kMillisecond);
+  const auto guarded = [body = std::move(body)](benchmark::State& state) {
+    try {
+      body(state);
+    } catch (const std::exception& e) {
+      state.SkipWithError(e.what());
+    }
+  };
+  return benchmark::RegisterBenchmark(nameOf(task, implementation, input).c_str(), guarded)
+      ->Unit(benchmark::kMillisecond);
 }
 
-void addTimed(const Task& task, const Implementation& implementation, const Sample& sample) {
+void addTimed(const Task& task, const Implementation& implementation, const Workload& workload) {
   const auto found = implementation.tasks.find(task.name);
   if (found == implementation.tasks.end()) return;
-  const Input& input = sample.input;
+  const Input& input = workload.input;
   // Mutable: the projection is made at the first repetition and kept.
   const auto body = [prepare = found->second, &input, task, name = nameOf(task.name, implementation, input),
                      projected = std::optional<Projection>()](benchmark::State& state) mutable {
@@ -150,7 +150,7 @@ void addTimed(const Task& task, const Implementation& implementation, const Samp
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(input.utf8().size()));
   };
   auto* added = add(task.name, implementation, input, body);
-  if (sample.repetitions) added->Iterations(1)->Repetitions(sample.repetitions);
+  if (workload.repetitions) added->Iterations(1)->Repetitions(workload.repetitions);
 }
 
 // The peak resident memory, in kilobytes, that parsing and walking the file
@@ -181,8 +181,8 @@ double peakKilobytes(const std::string& implementation, const std::string& path)
   return std::stod(output);
 }
 
-void addMemory(const Implementation& implementation, const Sample& sample) {
-  const Input& input = sample.input;
+void addMemory(const Implementation& implementation, const Workload& workload) {
+  const Input& input = workload.input;
   const auto measure = [&implementation, &input](benchmark::State& state) {
     double kilobytes = 0;
     for (auto _ : state) kilobytes = peakKilobytes(implementation.name, input.path());
@@ -241,7 +241,7 @@ class TableReporter : public benchmark::ConsoleReporter {
     for (const Task& task : tasks) taskNames.emplace_back(task.name);
     taskNames.emplace_back(memoryTask);
     std::vector<std::string> inputNames;
-    for (const Sample& sample : samples()) inputNames.push_back(sample.input.name());
+    for (const Workload& workload : workloads()) inputNames.push_back(workload.input.name());
     GetOutputStream() << "\nMedians over the repetitions; memory is the peak resident growth of parseFile and a "
                          "first-child/next-sibling walk in a fresh process.\n\n"
                       << table_.render(taskNames, inputNames);
@@ -250,7 +250,7 @@ class TableReporter : public benchmark::ConsoleReporter {
 
  private:
   static double value(const Run& run) {
-    if (run.run_name.function_name.rfind(memoryTask, 0) == 0) return run.counters.at("peak_KB");
+    if (run.run_name.function_name.rfind(std::string(memoryTask) + "/", 0) == 0) return run.counters.at("peak_KB");
     return run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
   }
 
@@ -263,12 +263,12 @@ int run(int argc, char** argv) {
     return measureMemory(argv[1] + memoryFlag.size());
   }
   for (const Task& task : tasks) {
-    for (const Sample& sample : samples()) {
-      for (const Implementation& implementation : implementations()) addTimed(task, implementation, sample);
+    for (const Workload& workload : workloads()) {
+      for (const Implementation& implementation : implementations()) addTimed(task, implementation, workload);
     }
   }
-  for (const Sample& sample : samples()) {
-    for (const Implementation& implementation : implementations()) addMemory(implementation, sample);
+  for (const Workload& workload : workloads()) {
+    for (const Implementation& implementation : implementations()) addMemory(implementation, workload);
   }
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
