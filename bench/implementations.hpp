@@ -16,7 +16,7 @@ class Document;
 
 namespace bench {
 
-/// The timed part of a task, readied on one input. It returns a count drawn
+/// What is timed of a task, readied on one input. It returns a count drawn
 /// from everything it read, so that nothing of it can be optimised away.
 using Work = std::function<std::size_t()>;
 /// Readies a task on an input, doing what is not to be timed (parsing the

@@ -203,18 +203,18 @@ long peakResidentKilobytes() {
   throw std::runtime_error("no VmHWM in /proc/self/status");
 }
 
-// The hidden mode: `spec` is "IMPLEMENTATION:FILE". The libraries have
+// The hidden mode: `request` is "IMPLEMENTATION:FILE". The libraries have
 // started before the first reading, so only the parse and walk count.
-int measureMemory(const std::string& spec) {
-  const std::size_t colon = spec.find(':');
+int measureMemory(const std::string& request) {
+  const std::size_t colon = request.find(':');
   for (const Implementation& implementation : implementations()) {
-    if (implementation.name != spec.substr(0, colon)) continue;
+    if (implementation.name != request.substr(0, colon)) continue;
     const long before = peakResidentKilobytes();
-    benchmark::DoNotOptimize(implementation.parseAndWalk(spec.substr(colon + 1)));
+    benchmark::DoNotOptimize(implementation.parseAndWalk(request.substr(colon + 1)));
     std::cout << peakResidentKilobytes() - before << '\n';
     return 0;
   }
-  std::cerr << "no implementation " << spec << '\n';
+  std::cerr << "no implementation " << request << '\n';
   return 2;
 }
 
