@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <memory>
 #include <stdexcept>
 #include <vector>
@@ -54,7 +55,10 @@ class Session {
   void step() {
     switch (input_.ConsumeIntegralInRange(0, 13)) {
       case 0: newDocument(); break;
-      case 1: keep(document()->createElementNS(pick(namespaces), pick(names))); break;
+      case 1:  // an element without namespace is one that Xerces renames into a new node
+        keep(input_.ConsumeBool() ? document()->createElement(pick(names))
+                                  : document()->createElementNS(pick(namespaces), pick(names)));
+        break;
       case 2: keep(document()->createAttributeNS(pick(namespaces), pick(names))); break;
       case 3: keep(document()->createTextNode(u"t\u00e9xt")); break;
       case 4:
@@ -121,8 +125,8 @@ class Session {
                                               : parseString(u"<r a='1'><s>t</s><!--c--><s/></r>"));
   }
 
-  void navigate(const Node& from) {
-    switch (input_.ConsumeIntegralInRange(0, 4)) {
+  void navigate(Node& from) {
+    switch (input_.ConsumeIntegralInRange(0, 5)) {
       case 0: return keep(from.getFirstChild());
       case 1: return keep(from.getLastChild());
       case 2: return keep(from.getNextSibling());
@@ -131,6 +135,7 @@ class Session {
         Node* parent = from.getParentNode();
         return keep(dynamic_cast<Document*>(parent) ? nullptr : parent);
       }
+      case 4: return keep(from.item(input_.ConsumeIntegralInRange(-1, 3)));
       default:
         for (Node* child : from.getChildren()) keep(child);
     }
@@ -162,14 +167,21 @@ class Session {
   }
 
   // Every surviving wrapper still reads its node and what is around it.
-  static void read(const Node* node) {
+  // Every surviving wrapper still reads its node, and its child list agrees
+  // with the sibling links, whatever moved or renamed the node meanwhile.
+  static void read(Node* node) {
     if (!node) return;
     node->getNodeName();
     node->getNodeValue();
     node->getTextContent();
-    delete node->getFirstChild();
     delete node->getNextSibling();
     DOMWriter().writeToString(node);
+    std::vector<std::unique_ptr<Node>> children;
+    for (Node* child : node->getChildren()) children.emplace_back(child);
+    if (node->getLength() != static_cast<double>(children.size())) std::abort();
+    for (std::size_t i = 0; i < children.size(); ++i) {
+      if (!std::unique_ptr<Node>(node->item(static_cast<double>(i)))->isSameNode(children[i].get())) std::abort();
+    }
   }
 
   // Shares and wrappers go in an order drawn from the input (what is left of

@@ -158,7 +158,11 @@ class Node : public XMLObject {
   T* implAs() const {
     return static_cast<T*>(impl());
   }
-  void setImpl(xercesc::DOMNode* impl) noexcept { impl_ = impl; }
+  /// Moves the wrapper to another node; the child list fetched for the old one goes.
+  void setImpl(xercesc::DOMNode* impl) noexcept {
+    impl_ = impl;
+    childList_ = nullptr;
+  }
 
  private:
   friend class Document;  // renames nodes in place

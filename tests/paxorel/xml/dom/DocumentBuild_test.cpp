@@ -76,9 +76,13 @@ TEST(DocumentRename, RenamesThroughTheWrapperPassedInAndTellsWhichMistakeWasMean
   const auto root = own(document->getDocumentElement());
   const auto e = own(document->createElement(u"e"));  // without a namespace: Xerces renames it into a new node
   root->appendChild(e.get());
+  e->appendChild(own(document->createTextNode(u"t")).get());
+  EXPECT_EQ(e->getLength(), 1);  // the wrapper now holds the old node's child list
   const auto a = own(root->getAttributeNode(u"a"));
   EXPECT_EQ(document->renameNode(e.get(), u"urn:x", u"x:f"), e.get());
   EXPECT_EQ(e->getNodeName() + u" " + e->getNamespaceURI(), u"x:f urn:x");
+  EXPECT_EQ(e->getLength(), 1);  // the new node's list, not the old one's, which is empty now
+  EXPECT_EQ(own(e->item(0))->getNodeValue(), u"t");
   EXPECT_TRUE(own(root->getFirstChild())->isSameNode(e.get()));
   document->renameNode(a.get(), u"", u"b");
   EXPECT_EQ(a->getNodeName() + u"=" + a->getNodeValue(), u"b=1");
