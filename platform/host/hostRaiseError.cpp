@@ -1,5 +1,7 @@
 #include <host/hostRaiseError.hpp>
 
-// No host language runs in this process: native callers receive the
-// exception that the caller throws after this returns.
-void hostRaiseError(const basis::except::IUserException& /*error*/) {}
+#include <host/Language.hpp>
+
+void hostRaiseError(const basis::except::IUserException& error) {
+  if (host::Language* language = host::currentLanguage()) language->raiseError(error);
+}

@@ -4,8 +4,6 @@
 #include <basis/filesystem/filesystem.hpp>
 #include <basis/i18n/MessageCatalog.hpp>
 #include <basis/text/utf.hpp>
-#include <vorlo/factory/basic/BindingRegistry.hpp>
-#include <vorlo/factory/full/Wrappable.hpp>
 #include <ZELMAR/string/MissingNotSupported.hpp>
 
 #include "support/TempDir.hpp"
@@ -97,15 +95,3 @@ TEST(Filesystem, PathsStatusAndAccess) {
   EXPECT_FALSE(filesystem::access(u(file), filesystem::access_read | filesystem::access_write));
 }
 
-TEST(BindingRegistry, ANativeObjectThatDiesOrIsRetractedLeavesNoBindingBehind) {
-  auto& registry = vorlo::factory::basic::BindingRegistry::instance();
-  int hostObject = 0;
-  auto object = std::make_unique<vorlo::factory::full::Wrappable>();
-  const vorlo::factory::full::Wrappable* address = object.get();
-  const vorlo::factory::full::Wrappable other;
-  registry.bind(address, &hostObject);
-  registry.retract(&other);  // unbound: changes nothing
-  EXPECT_EQ(registry.find(address), &hostObject);
-  object.reset();
-  EXPECT_EQ(registry.find(address), nullptr);
-}

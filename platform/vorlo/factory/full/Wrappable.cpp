@@ -5,7 +5,7 @@
 namespace vorlo::factory::full {
 
 Wrappable::~Wrappable() {
-  if (bound_) basic::BindingRegistry::instance().retract(this);
+  if (hostObject_) basic::BindingRegistry::instance().retract(this);
 }
 
 }  // namespace vorlo::factory::full

@@ -1,5 +1,8 @@
 #pragma once
 
+namespace vorlo {
+class VORInterface;
+}
 namespace vorlo::factory::basic {
 class BindingRegistry;
 }
@@ -7,7 +10,8 @@ class BindingRegistry;
 namespace vorlo::factory::full {
 
 /// Base of every native object that a host object may stand for. When the
-/// native object goes, its binding to a host object goes with it.
+/// native object goes, its binding to a host object goes with it, and the
+/// host object is left without a native object.
 class Wrappable {
  public:
   Wrappable() = default;
@@ -18,7 +22,9 @@ class Wrappable {
 
  private:
   friend class basic::BindingRegistry;
-  mutable bool bound_ = false;  // set by BindingRegistry::bind: most objects never are
+  // The host object that stands for this one, kept here by BindingRegistry so
+  // that finding it costs one load; most objects never have one.
+  mutable VORInterface* hostObject_ = nullptr;
 };
 
 }  // namespace vorlo::factory::full

@@ -17,10 +17,7 @@ namespace detail {
 /// host, the exception basis::except::Exception<Error> is thrown.
 template <class Error>
 [[noreturn]] void hostErrMsgId(const Error& error) {
-  basis::except::Exception<Error> exception(error);
-  exception.setErrorId(basis::except::IMsgIDException::get_error_id(error));
-  hostRaiseError(exception);
-  throw basis::except::Exception<Error>(exception);
+  hostRaise(error);
 }
 
 /// The one way in which the library reports a failure of an operation of

@@ -1,0 +1,7 @@
+#include <vorlo/VORPropertyInfo.hpp>
+
+namespace vorlo {
+
+VORPropertyInfo::~VORPropertyInfo() = default;
+
+}  // namespace vorlo
