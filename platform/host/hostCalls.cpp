@@ -33,6 +33,7 @@ HostArray* hostConstructObjectWithClient(vorlo::InternedName className, int inpu
   std::unique_ptr<HostArray, decltype(&hostDestroyArray)> member(hostCreateEnumerationMatrix(1, 1, className),
                                                                  &hostDestroyArray);
   std::vector<vorlo::VORValue> slots;
+  slots.reserve(static_cast<std::size_t>(inputCount));
   for (int i = 0; i < inputCount; ++i) slots.push_back(vorlo::VORValue::ofArray(inputs[i]));
   vorlo::VORValue output = vorlo::VORValue::ofArray(member.get());
   int produced = 0;

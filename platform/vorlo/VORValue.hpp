@@ -32,7 +32,7 @@ class VORValue {
   static VORValue ofLogical(bool value) noexcept { return ofWord(value ? 1 : 0); }
   static VORValue ofText(const basis::ustring* text) noexcept { return fromPointer(text); }
 
-  HostArray* array() const noexcept { return reinterpret_cast<HostArray*>(static_cast<std::uintptr_t>(bits_)); }
+  HostArray* array() const noexcept { return toPointer<HostArray>(); }
   double real() const noexcept {
     double value;
     std::memcpy(&value, &bits_, sizeof value);
@@ -40,18 +40,25 @@ class VORValue {
   }
   std::uint64_t word() const noexcept { return bits_; }
   bool logical() const noexcept { return bits_ != 0; }
-  const basis::ustring* text() const noexcept {
-    return reinterpret_cast<const basis::ustring*>(static_cast<std::uintptr_t>(bits_));
-  }
+  const basis::ustring* text() const noexcept { return toPointer<const basis::ustring>(); }
 
  private:
+  // Pointers go in and out by their bits, as the word holds them.
   static VORValue fromPointer(const void* pointer) noexcept {
-    return ofWord(reinterpret_cast<std::uintptr_t>(pointer));
+    VORValue slot;
+    std::memcpy(&slot.bits_, &pointer, sizeof pointer);
+    return slot;
+  }
+  template <class T>
+  T* toPointer() const noexcept {
+    T* pointer;
+    std::memcpy(&pointer, &bits_, sizeof pointer);
+    return pointer;
   }
 
   std::uint64_t bits_ = 0;
 };
 
-static_assert(sizeof(VORValue) == 8, "a slot is one 64-bit word");
+static_assert(sizeof(VORValue) == 8 && sizeof(void*) == 8, "a slot is one 64-bit word, and holds a pointer");
 
 }  // namespace vorlo

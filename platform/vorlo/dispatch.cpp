@@ -122,7 +122,7 @@ const VORMethodInfo& chooseOrRaise(const VORClass& cls, std::string_view name,
   return *chosen;
 }
 
-std::vector<const VORMethodInfo*> staticOrNot(std::vector<const VORMethodInfo*> methods, bool statics) {
+std::vector<const VORMethodInfo*> staticOrNot(const std::vector<const VORMethodInfo*>& methods, bool statics) {
   std::vector<const VORMethodInfo*> kept;
   for (const VORMethodInfo* method : methods) {
     if (method->isStatic() == statics) kept.push_back(method);
@@ -248,6 +248,7 @@ void setProperty(HostArray* self, std::string_view name, HostArray* value) {
   const VORClass& cls = classOf(self);
   const VORPropertyInfo* property = propertyOf(cls, name);
   if (!property) hostRaise(ZELMAR::vorlo::NoSuchProperty(cls.getInternedFullName().str(), std::string(name)));
+  if (!property->isSettable()) hostRaise(ZELMAR::vorlo::ReadOnlyProperty(std::string(name)));
   const TypeSpec& type = property->getTypeName().typeSpec();
   if (!accepts(value, type)) {
     hostRaise(ZELMAR::vorlo::BadPropertyValue(cls.getInternedFullName().str(), std::string(name),
