@@ -40,12 +40,41 @@ std::vector<const vorlo::VORClass*> lineage(const vorlo::VORClass* cls) {
 
 HostArray::HostArray(HostClassID classID, std::size_t rows, std::size_t columns, InternedName className)
     : classID_(classID), rows_(rows), columns_(columns), className_(className) {
+  reset(classID, rows, columns, className);
+}
+
+void HostArray::reset(HostClassID classID, std::size_t rows, std::size_t columns, InternedName className) {
+  classID_ = classID;
+  rows_ = rows;
+  columns_ = columns;
+  className_ = className;
+  heterogeneous_ = false;
+  words_.clear();
+  objects_.clear();
   switch (classID) {
-    case HostClassID::Char: strings_.resize(1); strings_[0].setText({}); break;
-    case HostClassID::String: strings_.resize(size()); break;
-    case HostClassID::Object: objects_.resize(size(), nullptr); break;
-    default: words_.resize(size(), 0); break;
+    case HostClassID::Char:
+      strings_.resize(1);
+      strings_[0].setText(u"", 0);
+      break;
+    case HostClassID::String:
+      strings_.resize(size());
+      for (HostString& text : strings_) text.setMissing();
+      break;
+    case HostClassID::Object: objects_.assign(size(), nullptr); break;
+    default: words_.assign(size(), 0); break;
   }
+  if (classID != HostClassID::Char && classID != HostClassID::String) strings_.clear();
+}
+
+bool HostArray::clearForReuse() noexcept {
+  for (VORInterface*& object : objects_) {
+    release(object);
+    object = nullptr;
+  }
+  constexpr std::size_t small = 16;
+  constexpr std::size_t shortText = 256;
+  return words_.capacity() <= small && objects_.capacity() <= small && strings_.capacity() <= 1 &&
+         (strings_.empty() || strings_[0].text().capacity() <= shortText);
 }
 
 HostArray::HostArray(const HostArray& other)

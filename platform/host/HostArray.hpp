@@ -40,6 +40,12 @@ class HostArray {
   HostArray& operator=(const HostArray&) = delete;
   ~HostArray();
 
+  /// Makes the array anew, as the constructor would, keeping the room its
+  /// elements had: arrays are kept for reuse (hostDestroyArray).
+  void reset(HostClassID classID, std::size_t rows, std::size_t columns, vorlo::InternedName className = {});
+  /// Lets go of its objects; true when the array is small enough to be kept.
+  bool clearForReuse() noexcept;
+
   HostClassID classID() const noexcept { return classID_; }
   std::size_t rows() const noexcept { return rows_; }
   std::size_t columns() const noexcept { return columns_; }

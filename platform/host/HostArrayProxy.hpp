@@ -1,6 +1,7 @@
 #pragma once
 
 #include <host/HostArray.hpp>
+#include <host/hostArrays.hpp>
 
 #include <utility>
 
@@ -17,7 +18,7 @@ class HostArrayProxy {
     std::swap(array_, other.array_);
     return *this;
   }
-  ~HostArrayProxy() { delete array_; }
+  ~HostArrayProxy() { hostDestroyArray(array_); }
 
   bool isNull() const noexcept { return array_ == nullptr; }
   HostArray* get() const noexcept { return array_; }

@@ -2,6 +2,7 @@
 
 #include <basis/ustring.hpp>
 
+#include <cstddef>
 #include <utility>
 
 /// One element of a host string array: text, or the missing string, which is
@@ -15,6 +16,11 @@ class HostString {
   const basis::ustring& text() const noexcept { return text_; }
   void setText(basis::ustring text) {
     text_ = std::move(text);
+    missing_ = false;
+  }
+  /// Sets `length` units of `text`, reusing the room the element has.
+  void setText(const char16_t* text, std::size_t length) {
+    text_.assign(text, length);
     missing_ = false;
   }
   void setMissing() noexcept {

@@ -6,11 +6,66 @@
 
 #include <string>
 
-HostArray* hostCreateDoubleMatrix(std::size_t rows, std::size_t columns, HostComplexity /*complexity*/) {
-  return new HostArray(HostClassID::Double, rows, columns);
+#if defined(__SANITIZE_ADDRESS__)
+#define HOST_ARRAYS_UNDER_ASAN 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define HOST_ARRAYS_UNDER_ASAN 1
+#endif
+#endif
+#if __has_include(<valgrind/valgrind.h>)
+#include <valgrind/valgrind.h>
+#else
+#define RUNNING_ON_VALGRIND 0
+#endif
+
+namespace {
+
+// Nearly every call between a host and the library makes an array or two and
+// drops them at once; a few dropped arrays are kept and made anew, with the
+// room their elements had, instead of going back to the heap. The state is
+// trivially destructible, so it stays usable until the very end of the
+// process. Under AddressSanitizer and valgrind nothing is kept, so that an
+// array used after it was destroyed is still reported.
+struct KeptArrays {
+  static constexpr std::size_t most = 64;
+  HostArray* arrays[most];
+  std::size_t count;
+  bool closed;
+};
+
+KeptArrays kept;
+
+const struct KeptArraysLifetime {
+  KeptArraysLifetime() {
+#ifdef HOST_ARRAYS_UNDER_ASAN
+    kept.closed = true;
+#else
+    kept.closed = RUNNING_ON_VALGRIND != 0;
+#endif
+  }
+  KeptArraysLifetime(const KeptArraysLifetime&) = delete;
+  KeptArraysLifetime& operator=(const KeptArraysLifetime&) = delete;
+  ~KeptArraysLifetime() {
+    kept.closed = true;
+    while (kept.count > 0) delete kept.arrays[--kept.count];
+  }
+} keptArraysLifetime;
+
+HostArray* makeArray(HostClassID classID, std::size_t rows, std::size_t columns, vorlo::InternedName className = {}) {
+  if (kept.count == 0) return new HostArray(classID, rows, columns, className);
+  HostArray* array = kept.arrays[--kept.count];
+  array->reset(classID, rows, columns, className);
+  return array;
 }
 
-HostArray* hostCreateNumericScalar(HostClassID classID) { return new HostArray(classID, 1, 1); }
+}  // namespace
+
+HostArray* hostCreateDoubleMatrix(std::size_t rows, std::size_t columns, HostComplexity /*complexity*/) {
+  return makeArray(HostClassID::Double, rows, columns);
+}
+
+HostArray* hostCreateNumericScalar(HostClassID classID) { return makeArray(classID, 1, 1); }
 
 HostArray* hostCreateLogicalScalar(bool value) {
   HostArray* array = hostCreateNumericScalar(HostClassID::Logical);
@@ -19,14 +74,14 @@ HostArray* hostCreateLogicalScalar(bool value) {
 }
 
 HostArray* hostCreateString_UTF16(const char16_t* text) {
-  basis::ustring terminated = text ? basis::ustring(text) : basis::ustring();
-  auto* array = new HostArray(HostClassID::Char, 1, terminated.size());
-  array->string(0).setText(std::move(terminated));
+  const std::size_t length = text ? std::char_traits<char16_t>::length(text) : 0;
+  HostArray* array = makeArray(HostClassID::Char, 1, length);
+  array->string(0).setText(text ? text : u"", length);
   return array;
 }
 
 HostArray* hostCreateStringArray(std::size_t rows, std::size_t columns) {
-  return new HostArray(HostClassID::String, rows, columns);
+  return makeArray(HostClassID::String, rows, columns);
 }
 
 HostString* hostGetString(HostArray* array, std::size_t index) {
@@ -37,7 +92,7 @@ HostString* hostGetString(HostArray* array, std::size_t index) {
 }
 
 HostArray* hostCreateObjectMatrix(std::size_t rows, std::size_t columns, vorlo::InternedName className) {
-  return new HostArray(HostClassID::Object, rows, columns, className);
+  return makeArray(HostClassID::Object, rows, columns, className);
 }
 
 void hostSetArrayElement(HostArray* array, std::size_t index, vorlo::VORInterfacePtr object) {
@@ -56,7 +111,7 @@ vorlo::VORInterfacePtr hostGetObjectElement(const HostArray* array, std::size_t 
 void hostSetClassOfHeterogeneousArray(HostArray* array) { array->settleHeterogeneousClass(); }
 
 HostArray* hostCreateEnumerationMatrix(std::size_t rows, std::size_t columns, vorlo::InternedName className) {
-  return new HostArray(HostClassID::Enumeration, rows, columns, className);
+  return makeArray(HostClassID::Enumeration, rows, columns, className);
 }
 
 void hostSetEnumerationElement(HostArray* array, std::size_t index, vorlo::InternedName member) {
@@ -72,4 +127,11 @@ bool hostIsEmpty(const HostArray* array) noexcept { return !array || array->isEm
 
 bool hostIsObject(const HostArray* array) noexcept { return array && array->classID() == HostClassID::Object; }
 
-void hostDestroyArray(HostArray* array) noexcept { delete array; }
+void hostDestroyArray(HostArray* array) noexcept {
+  if (!array) return;
+  if (array->clearForReuse() && !kept.closed && kept.count < KeptArrays::most) {
+    kept.arrays[kept.count++] = array;
+  } else {
+    delete array;
+  }
+}
