@@ -52,7 +52,7 @@ class VORValue {
   template <class T>
   T* toPointer() const noexcept {
     T* pointer;
-    std::memcpy(&pointer, &bits_, sizeof pointer);
+    std::memcpy(&pointer, &bits_, sizeof bits_);  // a pointer is as wide as the word
     return pointer;
   }
 
