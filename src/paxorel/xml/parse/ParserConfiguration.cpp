@@ -1,6 +1,7 @@
 #include <paxorel/xml/parse/ParserConfiguration.hpp>
 
 #include <paxorel/xml/core/XercesString.hpp>
+#include <paxorel/xml/core/raiseXmlError.hpp>
 
 #include <xercesc/dom/DOMConfiguration.hpp>
 #include <xercesc/dom/DOMLSParser.hpp>
@@ -11,7 +12,7 @@ namespace paxorel::xml {
 using xercesc::XMLUni;
 
 ParserConfiguration::ParserConfiguration(std::shared_ptr<xercesc::DOMLSParser> parser)
-    : parser_(std::move(parser)), configuration_(parser_->getDomConfig()) {}
+    : parser_(std::move(parser)), configuration_(parser_ ? parser_->getDomConfig() : nullptr) {}
 
 ParserConfiguration::~ParserConfiguration() = default;
 
@@ -19,16 +20,21 @@ const char* ParserConfiguration::getFullyQualifiedVorloTypeName() const {
   return "zelmar.io.xml.dom.ParserConfiguration";
 }
 
-bool ParserConfiguration::flag(const XMLCh* name) const { return configuration_->getParameter(name) != nullptr; }
+xercesc::DOMConfiguration* ParserConfiguration::configuration() const {
+  if (!configuration_) raiseXmlError(*this, xml_error::emptyNodeArgument());
+  return configuration_;
+}
 
-void ParserConfiguration::setFlag(const XMLCh* name, bool on) { configuration_->setParameter(name, on); }
+bool ParserConfiguration::flag(const XMLCh* name) const { return configuration()->getParameter(name) != nullptr; }
+
+void ParserConfiguration::setFlag(const XMLCh* name, bool on) { configuration()->setParameter(name, on); }
 
 ustring ParserConfiguration::text(const XMLCh* name) const {
-  return XercesString::toUstring(static_cast<const XMLCh*>(configuration_->getParameter(name)));
+  return XercesString::toUstring(static_cast<const XMLCh*>(configuration()->getParameter(name)));
 }
 
 void ParserConfiguration::setText(const XMLCh* name, const ustring& value) {
-  configuration_->setParameter(name, XercesString(value).toXMLCh());  // Xerces copies the text
+  configuration()->setParameter(name, XercesString(value).toXMLCh());  // Xerces copies the text
 }
 
 bool ParserConfiguration::getNamespaces() const { return flag(XMLUni::fgDOMNamespaces); }

@@ -18,7 +18,8 @@ namespace paxorel::xml {
 /// (the native getIdentityConstraintChecking reads the true option).
 class ParserConfiguration : public XMLObject {
  public:
-  /// A view of `parser`'s options; it keeps the parser alive.
+  /// A view of `parser`'s options; it keeps the parser alive. A view of no
+  /// parser (null) fails every operation with emptyNodeArgument.
   explicit ParserConfiguration(std::shared_ptr<xercesc::DOMLSParser> parser);
   ~ParserConfiguration() override;
 
@@ -87,6 +88,7 @@ class ParserConfiguration : public XMLObject {
   void setIgnoreCachedDTD(bool on);
 
  private:
+  xercesc::DOMConfiguration* configuration() const;  // emptyNodeArgument when missing
   bool flag(const XMLCh* name) const;
   void setFlag(const XMLCh* name, bool on);
   ustring text(const XMLCh* name) const;

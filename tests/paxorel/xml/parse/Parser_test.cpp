@@ -180,3 +180,11 @@ TEST(ParserConfiguration, AllViewsOfOneParserShareTheSettingsTakeEffectAndOutliv
   EXPECT_FALSE(orphan->getComments());
   EXPECT_STREQ(orphan->getFullyQualifiedVorloTypeName(), "zelmar.io.xml.dom.ParserConfiguration");
 }
+
+TEST(ParserConfiguration, AViewOfNoParserFailsEveryOptionWithEmptyNodeArgument) {
+  ParserConfiguration bare(nullptr);
+  EXPECT_XML_ERROR(bare.getComments(), "emptyNodeArgument");
+  EXPECT_XML_ERROR(bare.setValidate(true), "emptyNodeArgument");
+  EXPECT_XML_ERROR(bare.getExternalSchemaLocation(), "emptyNodeArgument");
+  EXPECT_XML_ERROR(bare.setExternalNoNamespaceSchemaLocation(u"b.xsd"), "emptyNodeArgument");
+}
