@@ -1,0 +1,13 @@
+#include <paxorel/xml/host/ModuleEntries.hpp>
+
+namespace {
+bool initialized = false;
+}  // namespace
+
+void ModuleInitialize_paxorel_xml() {
+  if (initialized) return;
+  paxorel::xml::mi::init_ZELMAR_IO_XML_DOM_Package();
+  initialized = true;
+}
+
+void ModuleTerminate_paxorel_xml() {}
