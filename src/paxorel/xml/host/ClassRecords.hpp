@@ -42,6 +42,15 @@ class VorXMLObjectClassInfo : public vorlo::factory::HandleClassInfo<XMLObject, 
   std::vector<const char*> bases_;
 };
 
+/// Declares the class record of a host class whose table is written in its
+/// own source.
+#define PAXOREL_XML_CLASS_RECORD(Class)                                            \
+  class Vor##Class final : public VorXMLObjectClassInfo {                          \
+   public:                                                                         \
+    using VorXMLObjectClassInfo::VorXMLObjectClassInfo;                            \
+    void initializeClass(vorlo::VORClass* cls, vorlo::VORClient* client) override; \
+  }
+
 /// Declares the class record of a host class whose records are still to come:
 /// it has the frame only.
 #define PAXOREL_XML_FRAME_RECORD(Class)                   \
@@ -50,39 +59,40 @@ class VorXMLObjectClassInfo : public vorlo::factory::HandleClassInfo<XMLObject, 
     using VorXMLObjectClassInfo::VorXMLObjectClassInfo;   \
   }
 
-PAXOREL_XML_FRAME_RECORD(Attr);
+PAXOREL_XML_CLASS_RECORD(Attr);
 PAXOREL_XML_FRAME_RECORD(CDATASection);
-PAXOREL_XML_FRAME_RECORD(CharacterData);
+PAXOREL_XML_CLASS_RECORD(CharacterData);
 PAXOREL_XML_FRAME_RECORD(Comment);
-PAXOREL_XML_FRAME_RECORD(Document);
+PAXOREL_XML_CLASS_RECORD(Document);
 PAXOREL_XML_FRAME_RECORD(DocumentConfiguration);
 PAXOREL_XML_FRAME_RECORD(DocumentFragment);
 PAXOREL_XML_FRAME_RECORD(DocumentType);
 PAXOREL_XML_FRAME_RECORD(DOMWriter);
-PAXOREL_XML_FRAME_RECORD(Element);
+PAXOREL_XML_CLASS_RECORD(Element);
 PAXOREL_XML_FRAME_RECORD(FileWriter);
 PAXOREL_XML_FRAME_RECORD(Entity);
 PAXOREL_XML_FRAME_RECORD(EntityReference);
 PAXOREL_XML_FRAME_RECORD(Locator);
-PAXOREL_XML_FRAME_RECORD(NamedNodeMap);
-PAXOREL_XML_FRAME_RECORD(Node);
-PAXOREL_XML_FRAME_RECORD(NodeList);
+PAXOREL_XML_CLASS_RECORD(NamedNodeMap);
+PAXOREL_XML_CLASS_RECORD(Node);
+PAXOREL_XML_CLASS_RECORD(NodeList);
 PAXOREL_XML_FRAME_RECORD(Notation);
 PAXOREL_XML_FRAME_RECORD(ParseError);
 PAXOREL_XML_FRAME_RECORD(ParseErrorLocator);
-PAXOREL_XML_FRAME_RECORD(Parser);
-PAXOREL_XML_FRAME_RECORD(ParserConfiguration);
+PAXOREL_XML_CLASS_RECORD(Parser);
+PAXOREL_XML_CLASS_RECORD(ParserConfiguration);
 PAXOREL_XML_FRAME_RECORD(ProcessingInstruction);
 PAXOREL_XML_FRAME_RECORD(ResourceIdentifier);
-PAXOREL_XML_FRAME_RECORD(Text);
+PAXOREL_XML_CLASS_RECORD(Text);
 PAXOREL_XML_FRAME_RECORD(TypeInfo);
 PAXOREL_XML_FRAME_RECORD(WriterConfiguration);
-PAXOREL_XML_FRAME_RECORD(Object);
+PAXOREL_XML_CLASS_RECORD(Object);
 PAXOREL_XML_FRAME_RECORD(XPathEvaluator);
 PAXOREL_XML_FRAME_RECORD(XPathExpression);
 PAXOREL_XML_FRAME_RECORD(XPathNSResolver);
 PAXOREL_XML_FRAME_RECORD(XPathResult);
 
+#undef PAXOREL_XML_CLASS_RECORD
 #undef PAXOREL_XML_FRAME_RECORD
 
 }  // namespace paxorel::xml::mi

@@ -66,7 +66,9 @@ const ClassRow classes[] = {
 };
 
 // The classes whose records are all registered; the others have none yet.
-const std::vector<std::string> withRecords = {};
+const std::vector<std::string> withRecords = {
+    "Object",       "Node",   "Document",           "Element", "Attr", "CharacterData", "Text", "NodeList",
+    "NamedNodeMap", "Parser", "ParserConfiguration"};
 
 std::string kindOf(const vorlo::VORClassInfo& record) {
   if (record.isEnumeration()) return "enumeration";
