@@ -1,5 +1,9 @@
 #include <paxorel/xml/host/ModuleEntries.hpp>
 
+#include <paxorel/xml/host/XercesExceptions.hpp>
+
+#include <host/ForeignError.hpp>
+
 namespace {
 bool initialized = false;
 }  // namespace
@@ -7,6 +11,7 @@ bool initialized = false;
 void ModuleInitialize_paxorel_xml() {
   if (initialized) return;
   paxorel::xml::mi::init_ZELMAR_IO_XML_DOM_Package();
+  host::addExceptionTranslator(&paxorel::xml::mi::describeXercesException);
   initialized = true;
 }
 

@@ -1,9 +1,13 @@
 // The package as a host finds it: the module entries, the 37 classes in
 // order with their descriptions, bases and kinds, the abstract classes and
-// enumerations.
+// enumerations, and how Xerces exceptions reach a host.
 #include "HostFixture.hpp"
 
-#include <vorlo/VORInterface.hpp>
+#include <host/ForeignError.hpp>
+
+#include <xercesc/dom/DOMLSException.hpp>
+#include <xercesc/dom/DOMXPathException.hpp>
+#include <xercesc/util/XMLURL.hpp>
 
 #include <dlfcn.h>
 
@@ -203,4 +207,42 @@ TEST_F(HostTest, EnumerationMembersAreUint32ObjectsOfTheirHostValuesMadeOnceEach
   const Array severity = adopt(hostCreateEnumerationMatrix(1, 1, cls("ParseErrorSeverity").getInternedFullName()));
   hostSetEnumerationElement(severity.get(), 0, vorlo::internal::makeInterned("UnknownError"));
   EXPECT_EQ(severity->word(0), 3u);
+}
+
+TEST_F(HostTest, XercesExceptionsReachAHostByTheirTypeWithMessageAndDomCode) {
+  const paxorel::xml::XercesGuard xerces;
+  const struct {
+    std::exception_ptr exception;
+    const char* identifier;
+    std::optional<long> code;
+  } rows[] = {
+      {std::make_exception_ptr(xercesc::DOMException(8, 0)), "xercesc:DOMException", 8},
+      {std::make_exception_ptr(xercesc::DOMXPathException(51, 0)), "xercesc:DOMXPathException", 51},
+      {std::make_exception_ptr(xercesc::DOMLSException(81, 0, xercesc::XMLPlatformUtils::fgMemoryManager)),
+       "xercesc:DOMLSException", 81},
+      {std::make_exception_ptr(
+           xercesc::MalformedURLException(__FILE__, __LINE__, xercesc::XMLExcepts::URL_MalformedURL)),
+       "xercesc:MalformedURLException", std::nullopt},
+  };
+  for (const auto& row : rows) {
+    const host::ForeignError error = host::describeException(row.exception);
+    EXPECT_EQ(error.identifier, row.identifier);
+    EXPECT_FALSE(error.message.empty()) << row.identifier;
+    EXPECT_EQ(error.code, row.code) << row.identifier;
+  }
+  EXPECT_EQ(host::describeException(std::make_exception_ptr(std::out_of_range("map::at"))).identifier,
+            "std:out_of_range");  // others are left to the platform
+
+  // One that the library lets through, taken as a host takes it: removing an
+  // attribute that is not there.
+  const Array document = parse(u"<a/>");
+  const Array attributes = call(call(document, "getDocumentElement"), "getAttributes");
+  try {
+    call(attributes, "removeNamedItemNS", {text(u"").get(), text(u"\u00e9").get()});
+    ADD_FAILURE() << "expected a DOMException";
+  } catch (...) {
+    const host::ForeignError error = host::describeException(std::current_exception());
+    EXPECT_EQ(error.identifier, "xercesc:DOMException");
+    EXPECT_EQ(error.code, 8);
+  }
 }
