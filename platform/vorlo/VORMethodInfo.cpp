@@ -7,6 +7,8 @@ VORMethodInfo::~VORMethodInfo() = default;
 const char* VORMethodInfo::getDescription() const { return ""; }
 std::uint32_t VORMethodInfo::getAttributes() const { return 0; }
 bool VORMethodInfo::isStatic() const {
+  const Kind kind = getKind();
+  if (kind == Kind::Constructor || kind == Kind::ValueConstructor) return true;
   const VORMethodSignaturePtr signature = getSignature();
   return !signature || !signature->hasSelf();
 }

@@ -31,7 +31,8 @@ class VORMethodInfo : public CallocRecord {
   virtual VORMethodSignaturePtr getSignature() const = 0;
   virtual std::uint32_t getAttributes() const;
   virtual Kind getKind() const = 0;
-  /// Whether the record takes no object: constructors and static methods.
+  /// Whether the record takes no object: constructors of both kinds, and
+  /// methods whose signature has no object first.
   virtual bool isStatic() const;
   virtual bool isAbstract() const;
   virtual bool isSealed() const;

@@ -197,7 +197,6 @@ class ColorConstructor : public VORMethodInfo {
     return signature({class_->getInternedFullName().c_str(), "uint32"});
   }
   Kind getKind() const override { return Kind::ValueConstructor; }
-  bool isStatic() const override { return true; }
   void invoke(VORClient* /*client*/, int& outputCount, VORValue* outputs, int inputCount,
               const VORValue* inputs) const override {
     VORIterator constructors = VORClass::getClass("uint32")->getMethods("uint32");

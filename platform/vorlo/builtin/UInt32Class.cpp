@@ -19,7 +19,6 @@ class UInt32Constructor : public VORMethodInfo {
   const char* getName() const override { return "uint32"; }
   VORMethodSignaturePtr getSignature() const override { return signature_; }
   Kind getKind() const override { return Kind::ValueConstructor; }
-  bool isStatic() const override { return true; }
 
   void invoke(VORClient* /*client*/, int& outputCount, VORValue* outputs, int inputCount,
               const VORValue* inputs) const override {
