@@ -4,6 +4,8 @@
 
 #include <host/hostArrays.hpp>
 
+#include <algorithm>
+
 
 namespace zelmar {
 
@@ -36,7 +38,8 @@ void Frame::release() noexcept {
 }
 
 vorlo::VORValue* Frame::slots(std::size_t count) {
-  slots_.assign(count, vorlo::VORValue());
+  if (slots_.size() < count) slots_.resize(count);
+  std::fill_n(slots_.begin(), count, vorlo::VORValue());
   return slots_.data();
 }
 

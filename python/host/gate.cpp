@@ -58,7 +58,7 @@ Gate::Entry::~Entry() {
     end(object);
   }
   state->owner = nullptr;
-  state->depth.store(0);
+  state->depth.store(0, std::memory_order_relaxed);  // a waiter reads it under the mutex locked below
   if (state->waiting > 0) {
     const std::lock_guard<std::mutex> lock(state->mutex);
     state->left.notify_all();
