@@ -7,6 +7,7 @@
 #include <vorlo/VORValue.hpp>
 
 #include <cstddef>
+#include <deque>
 #include <string>
 #include <vector>
 
@@ -39,7 +40,7 @@ class Frame {
 
   std::vector<vorlo::VORValue> slots_;
   std::vector<HostArray*> holding_;  // made once each, cleared after each call
-  std::vector<std::u16string> texts_;
+  std::deque<std::u16string> texts_;  // growing keeps the texts where they are: slots point to them
   std::vector<HostArray*> kept_;
 };
 

@@ -55,6 +55,7 @@ std::uint64_t unsignedOf(PyObject* value, std::uint64_t limit) {
   const unsigned long long result = PyLong_AsUnsignedLongLong(number);
   Py_DECREF(number);
   if (result == static_cast<unsigned long long>(-1) && PyErr_Occurred()) throwPythonError();
+  // Beyond 64 bits, Python's own OverflowError came first.
   if (result > limit) fail(PyExc_OverflowError, "%llu is too big for a uint32", result);
   return result;
 }
@@ -144,7 +145,7 @@ HostArray* listArray(PyObject* list) {
     for (std::size_t i = 0; i < columns; ++i) array->setReal(i, realOf(items[i]));
     return array.release();
   }
-  fail(PyExc_TypeError, "a %s of mixed values cannot be a host value", Py_TYPE(list)->tp_name);
+  fail(PyExc_TypeError, "a list of mixed values cannot be a host value");
 }
 
 PyObject* member(vorlo::InternedName cls, std::uint64_t value) {
@@ -347,7 +348,19 @@ HostArray* toArray(PyObject* value) {
   if (PyBool_Check(value)) return hostCreateLogicalScalar(value == Py_True);
   if (PyLong_Check(value) || PyFloat_Check(value)) return realArray(realOf(value));
   if (PyUnicode_Check(value)) return textArray(value);
-  if (PyList_Check(value) || PyTuple_Check(value)) return listArray(value);
+  if (PyList_Check(value) || PyTuple_Check(value)) {
+    // A tuple of the items: Python code that a conversion runs (an int
+    // subclass's __float__) cannot change what is being read.
+    PyObject* items = check(PySequence_Tuple(value));
+    try {
+      HostArray* array = listArray(items);
+      Py_DECREF(items);
+      return array;
+    } catch (...) {
+      Py_DECREF(items);
+      throw;
+    }
+  }
   fail(PyExc_TypeError, "a %s cannot be a host value", Py_TYPE(value)->tp_name);
 }
 

@@ -31,6 +31,11 @@ def test_text_arguments_arrive_whole_in_utf16_units(t, text, units):
     assert t.Canvas().length(text) == units
 
 
+def test_texts_of_several_arguments_stay_apart(t):
+    long = "x" * 1000  # no short-string storage: each text has its own buffer
+    assert t.Canvas().join(long, "\U0001F600") == long + "+\U0001F600"
+
+
 @pytest.mark.parametrize(
     "method, argument, result",
     [

@@ -401,6 +401,11 @@ void initializeCanvas(vorlo::VORClass* cls) {
     self<Canvas>(in[0]);
     out[0] = VORValue::ofDouble(in[1].text() ? static_cast<double>(in[1].text()->size()) : -1);
   });
+  method(cls, "join", 0, {"VorloFactoryString scalar", self_, "ustringToString scalar", "ustringToString scalar"},
+         [](int&, VORValue* out, const VORValue* in) {
+           self<Canvas>(in[0]);
+           out[0] = text(*in[1].text() + u"+" + *in[2].text());
+         });
   method(cls, "next", 0, {"uint64 scalar", self_, "uint64 scalar"}, [](int&, VORValue* out, const VORValue* in) {
     self<Canvas>(in[0]);
     out[0] = VORValue::ofWord(in[1].word() + 1);
