@@ -228,7 +228,11 @@ PyModuleDef module = {
 
 PyMODINIT_FUNC PyInit__host() {  // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): CPython's name
   using namespace zelmar;
-  if (!readyClassTypes() || !readyDescriptorTypes() || !attachPython()) return nullptr;
+  if (!readyClassTypes() || !readyDescriptorTypes()) return nullptr;
+  if (!attachPython()) {
+    PyErr_SetString(PyExc_ImportError, "zelmar: no room left to detach Python from the platform at exit");
+    return nullptr;
+  }
   PyObject* created = PyModule_Create(&module);
   if (!created) return nullptr;
   if (PyModule_AddObjectRef(created, "HostObject", reinterpret_cast<PyObject*>(&HostObjectType)) < 0 ||

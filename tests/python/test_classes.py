@@ -2,6 +2,7 @@
 and introspection of the records."""
 
 import pydoc
+import rlcompleter
 import sys
 
 import pytest
@@ -54,6 +55,9 @@ def test_hidden_records_stay_out_of_listings_and_stay_usable(t):
     assert circle.Secret is True
     text = pydoc.render_doc(t.Shape, renderer=pydoc.plaintext)
     assert "secretName" not in text and "Secret" not in text
+    completer = rlcompleter.Completer({"circle": circle, "Circle": t.Circle})
+    assert completer.complete("circle.sec", 0) is None and completer.complete("Circle.Sec", 0) is None
+    assert completer.complete("circle.sca", 0) == "circle.scale("
 
 
 def test_help_shows_signatures_and_descriptions(t):
