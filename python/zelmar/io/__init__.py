@@ -1,0 +1,1 @@
+"""Packages of input and output: zelmar.io.xml."""

@@ -1,0 +1,1 @@
+"""XML: zelmar.io.xml.dom, the document object model of paxorel-xml."""

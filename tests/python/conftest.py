@@ -1,0 +1,42 @@
+"""The tests of the Python host. They run against a build tree's package
+(./dev test puts build/<preset>/python on the path) and load the native test
+package built beside it, tests/python/libzelmar_testpackage.so."""
+
+import os
+import sys
+import types
+
+import pytest
+from hypothesis import settings
+
+import zelmar
+
+# No example database in the work tree: each run draws afresh.
+settings.register_profile("zelmar", database=None)
+settings.load_profile("zelmar")
+
+BUILD = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(zelmar.__file__))))
+TEST_PACKAGE = os.path.join(BUILD, "tests", "python", "libzelmar_testpackage.so")
+
+
+def load_test_package():
+    """The module zelmar.testing with the classes of the test package."""
+    if "zelmar.testing" not in sys.modules:
+        module = types.ModuleType("zelmar.testing")
+        sys.modules[module.__name__] = module
+        zelmar._load(TEST_PACKAGE, module.__name__, module.__dict__)
+    return sys.modules["zelmar.testing"]
+
+
+@pytest.fixture(scope="session")
+def t():
+    return load_test_package()
+
+
+@pytest.fixture
+def canvas(t):
+    """A canvas with a circle of diameter 2 and a square of side 3."""
+    canvas = t.Canvas("test")
+    canvas.add(t.Circle(2.0))
+    canvas.addSquare(3.0)
+    return canvas

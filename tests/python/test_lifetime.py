@@ -1,0 +1,141 @@
+"""Identity and lifetime: one wrapper, one Python object; the destruction
+hook when the Python object goes; objects that outlive their native side;
+interpreter exit with objects alive."""
+
+import gc
+import os
+import subprocess
+import sys
+import textwrap
+import weakref
+
+import pytest
+
+import zelmar
+
+
+def test_one_wrapper_is_one_python_object_while_announced(t, canvas):
+    circle = t.Circle()
+    assert canvas.add(circle) is circle  # the argument given back
+    assert canvas.first() is canvas.first()  # the same wrapper twice
+    first, again = canvas.shapes(), canvas.shapes()
+    assert all(a is not b and a.isSame(b) for a, b in zip(first, again))  # new wrappers, same shapes
+
+
+def test_the_destruction_hook_runs_when_the_python_object_goes(t):
+    live, ended = t.Item.live(), t.Item.ended()
+    circle = t.Circle()
+    gone = weakref.ref(circle)
+    assert t.Item.live() == live + 1
+    del circle
+    assert gone() is None
+    assert (t.Item.live(), t.Item.ended()) == (live, ended + 1)
+
+
+def test_objects_held_by_the_native_side_stay_alive(t):
+    canvas = t.Canvas()
+    circle = t.Circle()
+    canvas.keep([circle])
+    gone = weakref.ref(circle)
+    del circle
+    gc.collect()
+    assert gone() is not None and canvas.kept() is gone()  # a 1-by-1 array: the object
+    canvas.keep(None)
+    assert gone() is None
+
+
+def test_a_wrapper_given_out_again_gets_a_new_python_object_after_the_first_went(t, canvas):
+    first = canvas.first()
+    area, gone = first.getArea(), weakref.ref(first)
+    del first
+    assert gone() is None
+    assert canvas.first().getArea() == area  # the canvas kept the wrapper; a new Python object stands for it
+
+
+def test_objects_whose_native_side_went_fail_with_an_error_not_a_crash(t):
+    canvas = t.Canvas()
+    canvas.add(t.Circle())
+    first = canvas.first()
+    canvas.dropFirst()  # the native wrapper goes; its Python object stays
+    for call in (first.getArea, first.getName, lambda: first.Area, lambda: first.scale(2.0)):
+        with pytest.raises(zelmar.Error) as raised:
+            call()
+        assert raised.value.identifier == "ZELMAR:vorlo:InvalidObject"
+    kept = canvas.first()
+    del canvas  # the canvas deletes the wrapper it pinned
+    with pytest.raises(zelmar.Error):
+        kept.getArea()
+    del kept
+
+
+def test_python_subclasses_of_concrete_classes_keep_their_class(t):
+    class Big(t.Circle):
+        def twice(self):
+            return 2 * self.getArea()
+
+    canvas = t.Canvas()
+    big = Big(2.0)
+    assert canvas.add(big) is big and big.twice() == pytest.approx(2 * big.getArea())
+    canvas.keep(big)
+    big.note = "Python subclasses have a __dict__"
+    del big
+    assert canvas.kept().note == "Python subclasses have a __dict__"
+    assert type(canvas.first()) is t.Circle  # a wrapper of its own: of the class it reports
+
+
+def test_no_other_attributes_on_objects_of_platform_classes(t):
+    with pytest.raises(AttributeError):
+        t.Circle().Areaa = 1  # a typo is an error, not a new attribute
+
+
+def run(script):
+    """Runs `script` in a new interpreter with the test package loaded."""
+    prelude = f"""
+        import sys; sys.path.insert(0, {os.path.dirname(__file__)!r})
+        import conftest; t = conftest.load_test_package()
+    """
+    return subprocess.run(
+        [sys.executable, "-c", textwrap.dedent(prelude) + textwrap.dedent(script)],
+        capture_output=True,
+        text=True,
+        timeout=60,
+    )
+
+
+@pytest.mark.parametrize(
+    "script",
+    [
+        # Objects of every kind alive, held by Python and by the native side,
+        # and Python objects that the native side holds in a cycle.
+        """
+        canvas = t.Canvas("kept")
+        canvas.add(t.Circle(2.0)); first = canvas.first(); shapes = canvas.shapes()
+        class Painter(t.Painter):
+            def paint(self, shape): return True
+            def title(self): return "p"
+        painter = Painter(); painter.canvas = canvas
+        canvas.keep([painter, first]); color = t.Color.Blue
+        print("alive")
+        """,
+        # Exit while objects go from a finaliser of their own.
+        """
+        class Noisy(t.Circle):
+            def __del__(self): self.getArea()
+        keep = [Noisy(1.0) for _ in range(3)]
+        print("alive")
+        """,
+        # Exit from inside a callback.
+        """
+        class Quitter(t.Painter):
+            def paint(self, shape): sys.exit(0)
+            def title(self): return ""
+        canvas = t.Canvas(); canvas.add(t.Circle())
+        print("alive"); sys.stdout.flush()
+        canvas.render(Quitter())
+        """,
+    ],
+)
+def test_interpreter_exit_with_objects_alive(script):
+    result = run(script)
+    assert (result.returncode, result.stdout.strip()) == (0, "alive"), result.stderr
+    assert "Error" not in result.stderr and "Fatal" not in result.stderr, result.stderr

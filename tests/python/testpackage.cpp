@@ -1,0 +1,546 @@
+// A small package of the class-object system, made for the tests of the
+// Python host: shapes on canvases, registered through the platform's records
+// directly, with every kind of record and value that a package can have.
+//
+//   Item      handle, the base; 0x102 constructor; Live/Ended counters
+//   Shape     handle on Item and the unregistered zelmar.testing.mixin.Tagged:
+//             overloads, an enumeration, a direct method, a hidden method,
+//             read-only, settable, hidden and typed properties
+//   Circle    handle on Shape with public constructors
+//   Square    handle on Shape with a 0x102 constructor only
+//   Canvas    handle on Item: object, vector and "any" results, statics,
+//             errors, calls back into Python
+//   Painter   abstract: paint(Shape) -> logical, title() -> string*
+//   Color     enumeration over uint32: Red 0, Green 1, Blue 255
+
+#include <basis/except/Exception.hpp>
+#include <host/HostArrayProxy.hpp>
+#include <host/hostArrays.hpp>
+#include <host/hostCalls.hpp>
+#include <host/hostRaiseError.hpp>
+#include <vorlo/AbstractMethodInfo.hpp>
+#include <vorlo/VORClass.hpp>
+#include <vorlo/VORClient.hpp>
+#include <vorlo/VORPackage.hpp>
+#include <vorlo/VORPropT.hpp>
+#include <vorlo/VORTypeRepository.hpp>
+#include <vorlo/factory/VorloFactoryClassInfo.hpp>
+#include <vorlo/factory/VorloMethod.hpp>
+#include <vorlo/factory/basic/BindingRegistry.hpp>
+#include <vorlo/factory/detail/initStringDataTypes.hpp>
+#include <vorlo/factory/extractString.hpp>
+#include <vorlo/factory/impl/PropertyImpl.hpp>
+#include <vorlo/factory/impl/validateSelfPointer.hpp>
+
+#include <cmath>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+using vorlo::VORValue;
+using vorlo::internal::makeInterned;
+
+namespace {
+
+const char* const package = "zelmar.testing";
+
+// ---- the native objects -----------------------------------------------------
+
+int live = 0;   // native objects alive
+int ended = 0;  // host objects that went with a native object
+
+struct Item : vorlo::factory::full::Wrappable {
+  Item() { ++live; }
+  ~Item() override { --live; }
+  virtual const char* typeName() const { return "zelmar.testing.Item"; }
+  bool pinned = false;  // owned by its canvas, not by its host object
+};
+
+struct Canvas;
+
+struct ShapeData {
+  double width = 1;
+  double height = 1;
+  std::uint32_t color = 0;
+  bool secret = false;
+  std::unique_ptr<basis::ustring> label;
+  std::uint64_t serial = 0;
+  Canvas* canvas = nullptr;
+  bool round = false;
+};
+
+// A wrapper of shape data: each navigation makes a new one, as in the library.
+struct Shape : Item {
+  explicit Shape(std::shared_ptr<ShapeData> shapeData) : data(std::move(shapeData)) {}
+  const char* typeName() const override { return data->round ? "zelmar.testing.Circle" : "zelmar.testing.Square"; }
+  const basis::ustring* label() const { return data->label.get(); }
+  void setLabel(const basis::ustring* text) { data->label.reset(text ? new basis::ustring(*text) : nullptr); }
+  std::uint64_t serial() const { return data->serial; }
+  void setSerial(std::uint64_t value) { data->serial = value; }
+  std::shared_ptr<ShapeData> data;
+};
+
+struct Canvas : Item {
+  ~Canvas() override {
+    for (const auto& shape : shapes) shape->canvas = nullptr;
+  }
+  const char* typeName() const override { return "zelmar.testing.Canvas"; }
+  basis::ustring title;
+  std::vector<std::shared_ptr<ShapeData>> shapes;
+  std::unique_ptr<Shape> first;  // one wrapper, given out again and again
+  HostArrayProxy kept;
+};
+
+// ---- marshalling ------------------------------------------------------------
+
+template <class T>
+T* nativeOf(VORValue slot) {
+  return dynamic_cast<T*>(vorlo::vorloGetScalarObjectValue({}, slot));
+}
+
+template <class T>
+T& self(VORValue slot) {
+  T* object = nativeOf<T>(slot);
+  vorlo::factory::impl::validateSelfPointer(object);
+  return *object;
+}
+
+VORValue announce(const Item* item, const char* declared) {
+  auto& registry = vorlo::factory::basic::BindingRegistry::instance();
+  return VORValue::ofArray(item ? registry.announce(item, makeInterned(item->typeName()))
+                                : registry.announce(nullptr, makeInterned(declared)));
+}
+
+VORValue text(const basis::ustring& value) { return VORValue::ofArray(hostCreateString_UTF16(value.c_str())); }
+
+VORValue color(std::uint32_t value) {
+  HostArray* array = hostCreateEnumerationMatrix(1, 1, makeInterned("zelmar.testing.Color"));
+  hostSetEnumerationElement(array, 0, makeInterned(value == 0 ? "Red" : value == 1 ? "Green" : "Blue"));
+  return VORValue::ofArray(array);
+}
+
+using ArrayPtr = std::unique_ptr<HostArray, decltype(&hostDestroyArray)>;
+
+// Calls `method` of the host object in element 0 of `target`, with `argument`
+// after it when given; the result belongs to the caller.
+ArrayPtr callBack(HostArray* target, const char* method, HostArray* argument) {
+  vorlo::VORInterface* object = hostGetArrayElement(target, 0);
+  vorlo::factory::impl::validateSelfPointer(object);
+  ArrayPtr self(hostCreateObjectMatrix(1, 1, hostGetClassName(target)), &hostDestroyArray);
+  hostSetArrayElement(self.get(), 0, object);
+  HostArray* inputs[] = {self.get(), argument};
+  HostArray* output = nullptr;
+  hostCallMethod(makeInterned(hostGetClassName(self.get()).view()), makeInterned(method), VORGetPublicClient(), 1,
+                 &output, argument ? 2 : 1, inputs, false);
+  return {output, &hostDestroyArray};
+}
+
+struct Failure : basis::i18n::BaseMsgID {
+  Failure(const basis::ustring& what, std::int64_t number) : BaseMsgID("zelmar:testing", "failure", {what, number}) {}
+};
+
+// ---- records ----------------------------------------------------------------
+
+using Body = void (*)(int& outputCount, VORValue* outputs, const VORValue* inputs);
+
+void runBody(const vorlo::factory::VorloMethod& method, vorlo::VORClient* /*client*/, int& outputCount,
+             VORValue* outputs, int /*inputCount*/, const VORValue* inputs) {
+  method.member<Body>()(outputCount, outputs, inputs);
+  if (outputCount == 0) outputCount = 1;
+}
+
+// A method whose types are {output, object type or null, arguments...}.
+void method(vorlo::VORClass* cls, const char* name, std::uint32_t attributes, std::initializer_list<const char*> types,
+            Body body) {
+  vorlo::VORMethodSignaturePtr signature;
+  vorlo::factory::impl::Invoker::createSignature("", types, signature);
+  cls->addMethod(new vorlo::factory::impl::MethodImpl(name, attributes, signature, runBody,
+                                                      vorlo::factory::impl::MemberSlot(body)));
+}
+
+void constructor(vorlo::VORClass* cls, std::uint32_t attributes, std::initializer_list<const char*> types, Body body) {
+  vorlo::VORMethodSignaturePtr signature;
+  vorlo::factory::impl::Invoker::createSignature("", types, signature);
+  struct Constructor : vorlo::factory::impl::VorloConstructor {
+    Constructor(std::string name, std::uint32_t words, vorlo::VORMethodSignaturePtr signature, Body run)
+        : VorloConstructor(std::move(name), words, "Makes one.", std::move(signature), invoker), body(run) {}
+    static void invoker(const vorlo::factory::VorloMethod& record, vorlo::VORClient*, int& outputCount,
+                        VORValue* outputs, int, const VORValue* inputs) {
+      static_cast<const Constructor&>(record).body(outputCount, outputs, inputs);
+      if (outputCount == 0) outputCount = 1;
+    }
+    Body body;
+  };
+  cls->addMethod(new Constructor(cls->getShortName(), attributes, signature, body));
+}
+
+// Binds a new native object to the host object under construction.
+void bindNew(Item* item, VORValue* outputs) {
+  vorlo::factory::basic::BindingRegistry::instance().announceForConstructor(item, makeInterned(item->typeName()),
+                                                                            outputs[0].array(), true);
+}
+
+using Getter = VORValue (*)(VORValue self);
+using Setter = void (*)(VORValue self, VORValue value);
+
+void property(vorlo::VORClass* cls, const char* name, std::uint32_t attributes, const char* type, Getter get,
+              Setter set = nullptr) {
+  using vorlo::factory::impl::ClassGetter;
+  using vorlo::factory::impl::ClassSetter;
+  using vorlo::factory::impl::MemberSlot;
+  auto getter = std::make_unique<ClassGetter>(makeInterned(type), MemberSlot(get),
+                                              [](const ClassGetter& record, VORValue self, VORValue& value) {
+                                                value = record.member<Getter>()(self);
+                                              });
+  std::unique_ptr<ClassSetter> setter;
+  if (set) {
+    setter = std::make_unique<ClassSetter>(MemberSlot(set), [](const ClassSetter& record, VORValue self, VORValue value) {
+      record.member<Setter>()(self, value);
+    });
+  }
+  cls->addProperty(new vorlo::factory::impl::PropertyImpl(name, "", attributes, std::move(getter), std::move(setter)));
+}
+
+struct HandleClass : vorlo::factory::VorloFactoryClassInfo {
+  using Initialize = void (*)(vorlo::VORClass* cls);
+  HandleClass(const char* name, const char* description, Initialize body)
+      : VorloFactoryClassInfo(name, description), initialize(body) {}
+  void initializeClass(vorlo::VORClass* cls, vorlo::VORClient* /*client*/) override {
+    vorlo::factory::detail::initStringDataTypes();
+    initialize(cls);
+  }
+  void deallocateInstance(vorlo::VORInterface* /*object*/, vorlo::factory::full::Wrappable* instance) override {
+    auto* item = dynamic_cast<Item*>(instance);
+    if (!item) return;
+    ++ended;
+    if (!item->pinned) delete item;
+  }
+  bool isAbstract() const override { return false; }
+  Initialize initialize;
+};
+
+struct ItemClass final : HandleClass {
+  using HandleClass::HandleClass;
+  const char* getDetailedDescription() const override { return "Everything on a canvas is an item."; }
+};
+
+void initializeItem(vorlo::VORClass* cls) {
+  constructor(cls, 0x102, {"zelmar.testing.Item", nullptr}, [](int&, VORValue* out, const VORValue*) {
+    bindNew(new Item, out);
+  });
+  method(cls, "getName", 0, {"VorloFactoryString scalar", "zelmar.testing.Item"}, [](int&, VORValue* out, const VORValue* in) {
+    const std::string name = self<Item>(in[0]).typeName();
+    out[0] = text(basis::ustring(name.begin(), name.end()));
+  });
+  method(cls, "live", 0, {"double scalar", nullptr}, [](int&, VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(live); });
+  method(cls, "ended", 0, {"double scalar", nullptr}, [](int&, VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(ended); });
+}
+
+void initializeShape(vorlo::VORClass* cls) {
+  cls->addSuperclass(makeInterned("zelmar.testing.Item"), 1, 0, 1);
+  cls->addSuperclass(makeInterned("zelmar.testing.mixin.Tagged"), 1, 0, 1);
+  constructor(cls, 0x102, {"zelmar.testing.Shape", nullptr}, [](int&, VORValue* out, const VORValue*) {
+    bindNew(new Shape(std::make_shared<ShapeData>()), out);
+  });
+  const char* self_ = "zelmar.testing.Shape";
+  method(cls, "getArea", 0, {"double scalar", self_}, [](int&, VORValue* out, const VORValue* in) {
+    const ShapeData& data = *self<Shape>(in[0]).data;
+    out[0] = VORValue::ofDouble(data.round ? M_PI * data.width * data.width / 4 : data.width * data.height);
+  });
+  // Overloads: by count, and by type at the same count.
+  method(cls, "scale", 0, {"void", self_, "double scalar"}, [](int&, VORValue*, const VORValue* in) {
+    ShapeData& data = *self<Shape>(in[0]).data;
+    data.width *= in[1].real();
+    data.height *= in[1].real();
+  });
+  method(cls, "scale", 0, {"void", self_, "zelmar.testing.Shape"}, [](int&, VORValue*, const VORValue* in) {
+    ShapeData& data = *self<Shape>(in[0]).data;
+    const Shape* other = nativeOf<Shape>(in[1]);
+    data.width = other ? other->data->width : 0;
+    data.height = other ? other->data->height : 0;
+  });
+  method(cls, "scale", 0, {"void", self_, "double scalar", "double scalar"}, [](int&, VORValue*, const VORValue* in) {
+    ShapeData& data = *self<Shape>(in[0]).data;
+    data.width *= in[1].real();
+    data.height *= in[2].real();
+  });
+  method(cls, "getColor", 0, {"zelmar.testing.Color", self_}, [](int&, VORValue* out, const VORValue* in) {
+    out[0] = color(self<Shape>(in[0]).data->color);
+  });
+  method(cls, "setColor", 0, {"void", self_, "zelmar.testing.Color"}, [](int&, VORValue*, const VORValue* in) {
+    self<Shape>(in[0]).data->color = static_cast<std::uint32_t>(in[1].array()->word(0));
+  });
+  method(cls, "isSame", 0, {"logical scalar", self_, "zelmar.testing.Shape"}, [](int&, VORValue* out, const VORValue* in) {
+    const Shape* other = nativeOf<Shape>(in[1]);
+    out[0] = VORValue::ofLogical(other && other->data == self<Shape>(in[0]).data);
+  });
+  method(cls, "describe", 0, {"VorloFactoryString scalar", self_, "logical scalar"}, [](int&, VORValue* out, const VORValue* in) {
+    const ShapeData& data = *self<Shape>(in[0]).data;
+    out[0] = text(in[1].logical() ? (data.round ? u"a round shape" : u"a square shape") : u"a shape");
+  });
+  method(cls, "secretName", vorlo::VORMethodInfo::Hidden, {"VorloFactoryString scalar", self_},
+         [](int&, VORValue* out, const VORValue* in) {
+           self<Shape>(in[0]);
+           out[0] = text(u"hidden");
+         });
+  // A direct method: the canvas, or the empty double for none.
+  const char* directInputs[] = {"zelmar.testing.Shape scalar"};
+  const char* directOutputs[] = {"any"};
+  cls->addMethod<Shape*>("getCanvas", 0, 1, directOutputs, 1, directInputs,
+                         [](Shape* shape, int&, VORValue* out, int, const VORValue*) {
+                           vorlo::factory::impl::validateSelfPointer(shape);
+                           out[0] = shape->data->canvas ? announce(shape->data->canvas, "zelmar.testing.Canvas")
+                                                        : VORValue::ofArray(hostCreateDoubleMatrix(0, 0, HostComplexity::Real));
+                         },
+                         true);
+  property(cls, "Area", 0, "double scalar", [](VORValue s) {
+    const ShapeData& data = *self<Shape>(s).data;
+    return VORValue::ofDouble(data.width * data.height);
+  });
+  property(
+      cls, "Color", 0, "zelmar.testing.Color", [](VORValue s) { return color(self<Shape>(s).data->color); },
+      [](VORValue s, VORValue value) { self<Shape>(s).data->color = static_cast<std::uint32_t>(value.array()->word(0)); });
+  property(
+      cls, "Secret", vorlo::VORPropertyInfo::Hidden, "logical scalar",
+      [](VORValue s) { return VORValue::ofLogical(self<Shape>(s).data->secret); },
+      [](VORValue s, VORValue value) { self<Shape>(s).data->secret = value.logical(); });
+  const auto* textType = vorlo::VORTypeRepository::getType(makeInterned("ustringToString scalar"));
+  const auto* wordType = vorlo::VORTypeRepository::getType(makeInterned("uint64 scalar"));
+  cls->addProperty(new vorlo::VORPropCPPT<Shape, const basis::ustring*>(textType, makeInterned("Label"), makeInterned(""), 2,
+                                                                        cls, &Shape::label, &Shape::setLabel));
+  cls->addProperty(new vorlo::VORPropCPPT<Shape, std::uint64_t>(wordType, makeInterned("Serial"), makeInterned(""), 2, cls,
+                                                                 &Shape::serial, &Shape::setSerial));
+}
+
+void initializeCircle(vorlo::VORClass* cls) {
+  cls->addSuperclass(makeInterned("zelmar.testing.Shape"), 1, 0, 1);
+  constructor(cls, 0, {"zelmar.testing.Circle", nullptr}, [](int&, VORValue* out, const VORValue*) {
+    auto data = std::make_shared<ShapeData>();
+    data->round = true;
+    bindNew(new Shape(data), out);
+  });
+  constructor(cls, 0, {"zelmar.testing.Circle", nullptr, "double scalar"}, [](int&, VORValue* out, const VORValue* in) {
+    auto data = std::make_shared<ShapeData>();
+    data->round = true;
+    data->width = data->height = in[1].real();
+    bindNew(new Shape(data), out);
+  });
+}
+
+void initializeSquare(vorlo::VORClass* cls) {
+  cls->addSuperclass(makeInterned("zelmar.testing.Shape"), 1, 0, 1);
+  constructor(cls, 0x102, {"zelmar.testing.Square", nullptr}, [](int&, VORValue* out, const VORValue*) {
+    bindNew(new Shape(std::make_shared<ShapeData>()), out);
+  });
+}
+
+// A new wrapper for each shape, in a 1-by-n array of their common class.
+VORValue shapesOf(const Canvas& canvas) {
+  ArrayPtr array(hostCreateObjectMatrix(1, canvas.shapes.size(), makeInterned("zelmar.testing.Shape")), &hostDestroyArray);
+  for (std::size_t i = 0; i < canvas.shapes.size(); ++i) {
+    const ArrayPtr one(announce(new Shape(canvas.shapes[i]), "zelmar.testing.Shape").array(), &hostDestroyArray);
+    hostSetArrayElement(array.get(), i, hostGetArrayElement(one.get(), 0));
+  }
+  hostSetClassOfHeterogeneousArray(array.get());
+  return VORValue::ofArray(array.release());
+}
+
+void initializeCanvas(vorlo::VORClass* cls) {
+  cls->addSuperclass(makeInterned("zelmar.testing.Item"), 1, 0, 1);
+  const char* self_ = "zelmar.testing.Canvas";
+  constructor(cls, 0, {self_, nullptr}, [](int&, VORValue* out, const VORValue*) { bindNew(new Canvas, out); });
+  constructor(cls, 0, {self_, nullptr, "VorloFactoryString scalar"}, [](int&, VORValue* out, const VORValue* in) {
+    auto canvas = std::make_unique<Canvas>();
+    canvas->title = vorlo::factory::extractString(in[1].array());
+    bindNew(canvas.release(), out);
+  });
+  method(cls, "add", 0, {"zelmar.testing.Shape", self_, "zelmar.testing.Shape"}, [](int&, VORValue* out, const VORValue* in) {
+    Canvas& canvas = self<Canvas>(in[0]);
+    Shape* shape = nativeOf<Shape>(in[1]);
+    if (shape) {
+      shape->data->canvas = &canvas;
+      canvas.shapes.push_back(shape->data);
+    }
+    out[0] = announce(shape, "zelmar.testing.Shape");  // its argument, as the library's setters do
+  });
+  method(cls, "addSquare", 0, {"zelmar.testing.Square", self_, "double scalar"}, [](int&, VORValue* out, const VORValue* in) {
+    Canvas& canvas = self<Canvas>(in[0]);
+    auto data = std::make_shared<ShapeData>();
+    data->width = data->height = in[1].real();
+    data->canvas = &canvas;
+    canvas.shapes.push_back(data);
+    out[0] = announce(new Shape(data), "zelmar.testing.Square");
+  });
+  method(cls, "first", 0, {"zelmar.testing.Shape", self_}, [](int&, VORValue* out, const VORValue* in) {
+    Canvas& canvas = self<Canvas>(in[0]);
+    if (!canvas.first && !canvas.shapes.empty()) {
+      canvas.first = std::make_unique<Shape>(canvas.shapes.front());
+      canvas.first->pinned = true;
+    }
+    out[0] = announce(canvas.first.get(), "zelmar.testing.Shape");
+  });
+  method(cls, "dropFirst", 0, {"void", self_}, [](int&, VORValue*, const VORValue* in) { self<Canvas>(in[0]).first.reset(); });
+  method(cls, "shapes", 0, {"zelmar.testing.Shape vector", self_}, [](int&, VORValue* out, const VORValue* in) {
+    out[0] = shapesOf(self<Canvas>(in[0]));
+  });
+  method(cls, "keep", 0, {"void", self_, "any"}, [](int&, VORValue*, const VORValue* in) {
+    self<Canvas>(in[0]).kept = HostArrayProxy(in[1].array() ? new HostArray(*in[1].array()) : nullptr);
+  });
+  method(cls, "kept", 0, {"any", self_}, [](int&, VORValue* out, const VORValue* in) {
+    const HostArrayProxy& kept = self<Canvas>(in[0]).kept;
+    out[0] = VORValue::ofArray(kept.isNull() ? nullptr : new HostArray(*kept.get()));
+  });
+  method(cls, "echo", 0, {"VorloFactoryString scalar", self_, "VorloFactoryString scalar"},
+         [](int&, VORValue* out, const VORValue* in) {
+           const basis::ustring value = vorlo::factory::extractString(in[1].array());
+           self<Canvas>(in[0]).title = value;  // kept whole, zero units included
+           out[0] = text(value);
+         });
+  method(cls, "length", 0, {"double scalar", self_, "ustringToString scalar"}, [](int&, VORValue* out, const VORValue* in) {
+    self<Canvas>(in[0]);
+    out[0] = VORValue::ofDouble(in[1].text() ? static_cast<double>(in[1].text()->size()) : -1);
+  });
+  method(cls, "join", 0, {"VorloFactoryString scalar", self_, "ustringToString scalar", "ustringToString scalar"},
+         [](int&, VORValue* out, const VORValue* in) {
+           self<Canvas>(in[0]);
+           out[0] = text(*in[1].text() + u"+" + *in[2].text());
+         });
+  method(cls, "next", 0, {"uint64 scalar", self_, "uint64 scalar"}, [](int&, VORValue* out, const VORValue* in) {
+    self<Canvas>(in[0]);
+    out[0] = VORValue::ofWord(in[1].word() + 1);
+  });
+  method(cls, "wrap", 0, {"uint32", self_, "uint32"}, [](int&, VORValue* out, const VORValue* in) {
+    self<Canvas>(in[0]);
+    out[0] = VORValue::ofArray(new HostArray(*in[1].array()));
+  });
+  method(cls, "half", 0, {"double scalar", self_, "double scalar"}, [](int&, VORValue* out, const VORValue* in) {
+    self<Canvas>(in[0]);
+    out[0] = VORValue::ofDouble(in[1].real() / 2);
+  });
+  method(cls, "fail", 0, {"void", self_, "VorloFactoryString scalar", "double scalar"}, [](int&, VORValue*, const VORValue* in) {
+    self<Canvas>(in[0]);
+    hostRaise(Failure(vorlo::factory::extractString(in[1].array()), static_cast<std::int64_t>(in[2].real())));
+  });
+  method(cls, "crash", 0, {"void", self_, "VorloFactoryString scalar"}, [](int&, VORValue*, const VORValue* in) {
+    self<Canvas>(in[0]);
+    const basis::ustring what = vorlo::factory::extractString(in[1].array());
+    throw std::out_of_range(std::string(what.begin(), what.end()));
+  });
+  // Calls back into Python: paint each shape, count the shapes painted.
+  method(cls, "render", 0, {"double scalar", self_, "zelmar.testing.Painter"}, [](int&, VORValue* out, const VORValue* in) {
+    Canvas& canvas = self<Canvas>(in[0]);
+    int painted = 0;
+    for (const auto& data : canvas.shapes) {
+      ArrayPtr shape(announce(new Shape(data), "zelmar.testing.Shape").array(), &hostDestroyArray);
+      const ArrayPtr result = callBack(in[1].array(), "paint", shape.get());
+      painted += result && result->word(0) != 0 ? 1 : 0;
+    }
+    out[0] = VORValue::ofDouble(painted);
+  });
+  method(cls, "titleOf", 0, {"VorloFactoryString scalar", self_, "zelmar.testing.Painter"},
+         [](int&, VORValue* out, const VORValue* in) {
+           self<Canvas>(in[0]);
+           const ArrayPtr result = callBack(in[1].array(), "title", nullptr);
+           out[0] = text(vorlo::factory::extractString(result.get()));
+         });
+  method(cls, "origin", 0, {"double scalar", nullptr}, [](int&, VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(0); });
+  method(cls, "origin", 0, {"double scalar", nullptr, "double scalar"}, [](int&, VORValue* out, const VORValue* in) {
+    out[0] = VORValue::ofDouble(-in[1].real());
+  });
+  property(
+      cls, "Title", 0, "VorloFactoryString scalar", [](VORValue s) { return text(self<Canvas>(s).title); },
+      [](VORValue s, VORValue value) { self<Canvas>(s).title = vorlo::factory::extractString(value.array()); });
+  property(cls, "Count", 0, "double scalar",
+           [](VORValue s) { return VORValue::ofDouble(static_cast<double>(self<Canvas>(s).shapes.size())); });
+  property(cls, "Shapes", 0, "zelmar.testing.Shape vector", [](VORValue s) { return shapesOf(self<Canvas>(s)); });
+}
+
+struct Abstract final : vorlo::AbstractMethodInfo {
+  Abstract(const char* method, vorlo::VORMethodSignaturePtr signature) : AbstractMethodInfo(std::move(signature)), name(method) {}
+  const char* getName() const override { return name; }
+  const char* name;
+};
+
+struct PainterClass final : vorlo::VORClassInfo {
+  const char* getName() const override { return "Painter"; }
+  void initializeClass(vorlo::VORClass* cls, vorlo::VORClient* /*client*/) override {
+    cls->addSuperclass(makeInterned("zelmar.testing.mixin.Surface"), 1, 0, 1);
+    vorlo::VORMethodSignaturePtr paint;
+    vorlo::factory::impl::Invoker::createSignature("Paints the shape; whether it did.",
+                                                   {"logical scalar", "zelmar.testing.Painter", "zelmar.testing.Shape"},
+                                                   paint);
+    cls->addMethod(new Abstract("paint", paint));
+    vorlo::VORMethodSignaturePtr title;
+    vorlo::factory::impl::Invoker::createSignature("", {"ustringToString scalar", "zelmar.testing.Painter"}, title);
+    cls->addMethod(new Abstract("title", title));
+  }
+};
+
+struct ColorMember final : vorlo::VOREnumInfo {
+  ColorMember(const char* member, std::uint32_t number) : name(member), value(number) {}
+  ~ColorMember() override { hostDestroyArray(cached); }
+  const char* getName() const override { return name; }
+  HostArray* getValue() override {
+    if (!cached) {
+      ArrayPtr scalar(hostCreateNumericScalar(HostClassID::UInt32), &hostDestroyArray);
+      scalar->setWord(0, value);
+      HostArray* inputs[] = {scalar.get()};
+      cached = hostConstructObjectWithClient(makeInterned("zelmar.testing.Color"), 1, inputs, VORGetPublicClient());
+    }
+    return cached;
+  }
+  const char* name;
+  std::uint32_t value;
+  HostArray* cached = nullptr;
+};
+
+// The value constructor: the uint32 class's own constructor sets the value.
+struct ColorConstructor final : vorlo::VORMethodInfo {
+  explicit ColorConstructor(vorlo::VORClass* enumeration) : cls(enumeration) {
+    vorlo::factory::impl::Invoker::createSignature("", {"zelmar.testing.Color", "uint32"}, signature);
+  }
+  const char* getName() const override { return "Color"; }
+  vorlo::VORMethodSignaturePtr getSignature() const override { return signature; }
+  Kind getKind() const override { return Kind::ValueConstructor; }
+  bool isFirstArgDispatch() const override { return false; }
+  void invoke(vorlo::VORClient*, int& outputCount, VORValue* outputs, int inputCount, const VORValue* inputs) const override {
+    vorlo::VORIterator methods = vorlo::VORClass::getClass("uint32")->getMethods("uint32");
+    const vorlo::VORMethodInfo* uint32 = vorlo::voriToMethod(methods.nextElement());
+    cls->constructSuperclass({outputs[0].array(), makeInterned("uint32"), uint32, 1, outputs, inputCount, inputs});
+    if (outputCount == 0) outputCount = 1;
+  }
+  vorlo::VORClass* cls;
+  vorlo::VORMethodSignaturePtr signature;
+};
+
+struct ColorClass final : vorlo::VORClassInfo {
+  const char* getName() const override { return "Color"; }
+  const char* getDescription() const override { return "Colours of shapes"; }
+  void initializeClass(vorlo::VORClass* cls, vorlo::VORClient* /*client*/) override {
+    cls->addSuperclass(makeInterned("uint32"), 0, 0, 1);
+    cls->addEnumerationMember(new ColorMember("Red", 0));
+    cls->addEnumerationMember(new ColorMember("Green", 1));
+    cls->addEnumerationMember(new ColorMember("Blue", 255));
+    cls->addMethod(new ColorConstructor(cls));
+  }
+  bool isEnumeration() const override { return true; }
+  bool isHandleClass() const override { return false; }
+  bool isOkToDestroy() const override { return false; }
+};
+
+}  // namespace
+
+/// Registers the package "zelmar.testing", once. Its classes come in an
+/// order where derived classes precede their bases.
+extern "C" __attribute__((visibility("default"))) void ModuleInitialize_zelmar_testpackage() {
+  vorlo::factory::registerVorloPackage(package, [](vorlo::VORPackage* added) {
+    added->addClass(new PainterClass, 2);
+    added->addClass(new HandleClass("Circle", "A round shape", initializeCircle), 2);
+    added->addClass(new HandleClass("Canvas", "Holds shapes", initializeCanvas), 2);
+    added->addClass(new ColorClass, 2);
+    added->addClass(new HandleClass("Shape", "A shape on a canvas", initializeShape), 2);
+    added->addClass(new HandleClass("Square", "A square shape", initializeSquare), 2);
+    added->addClass(new ItemClass("Item", "Base of the test package's objects", initializeItem), 2);
+  });
+}
