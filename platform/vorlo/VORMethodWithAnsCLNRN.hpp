@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vorlo/VORMethodInfo.hpp>
+#include <vorlo/factory/downcast.hpp>
 #include <vorlo/factory/full/Wrappable.hpp>
 #include <vorlo/vorloGetScalarObjectValue.hpp>
 
@@ -28,7 +29,7 @@ class VORMethodWithAnsCLNRN<T*> : public VORMethodInfo {
 
   void invoke(VORClient* /*client*/, int& outputCount, VORValue* outputs, int inputCount,
               const VORValue* inputs) const override {
-    T* self = dynamic_cast<T*>(vorloGetScalarObjectValue(className_, inputs[0]));
+    T* self = factory::downcast<T>(vorloGetScalarObjectValue(className_, inputs[0]));
     function_(self, outputCount, outputs, inputCount, inputs);
     if (outputCount == 0) outputCount = 1;
   }

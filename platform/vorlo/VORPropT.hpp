@@ -4,6 +4,7 @@
 #include <vorlo/VORClass.hpp>
 #include <vorlo/VORPropertyInfo.hpp>
 #include <vorlo/VORTypeRepository.hpp>
+#include <vorlo/factory/downcast.hpp>
 #include <vorlo/factory/impl/validateSelfPointer.hpp>
 #include <vorlo/vorloGetScalarObjectValue.hpp>
 
@@ -62,7 +63,7 @@ class VORPropCPPT : public VORPropT {
 
  private:
   K* objectOf(VORValue self) const {
-    K* object = dynamic_cast<K*>(vorloGetScalarObjectValue(getDeclaringClass()->getInternedFullName(), self));
+    K* object = factory::downcast<K>(vorloGetScalarObjectValue(getDeclaringClass()->getInternedFullName(), self));
     factory::impl::validateSelfPointer(object);
     return object;
   }

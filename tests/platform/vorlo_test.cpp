@@ -13,6 +13,7 @@
 #include <vorlo/factory/basic/BindingRegistry.hpp>
 #include <vorlo/factory/VorloFactoryClassInfo.hpp>
 #include <vorlo/factory/VorloMethod.hpp>
+#include <vorlo/factory/downcast.hpp>
 
 #include <gtest/gtest.h>
 
@@ -85,6 +86,19 @@ TEST(InternedName, EqualTextsAreOneNameAndTypeStringsAreParsedOnce) {
     EXPECT_EQ(spec.kind, c.kind) << c.type;
     EXPECT_STREQ(spec.className.c_str(), c.className) << c.type;
     EXPECT_EQ(&spec, &name(c.type).typeSpec());
+  }
+}
+
+TEST(Downcast, AnswersAsDynamicCastDoesForEveryClassSeenAgain) {
+  sample::Thing thing;
+  sample::BigThing big;
+  sample::Other other;
+  for (int round = 0; round < 2; ++round) {  // the second round answers from what the first kept
+    EXPECT_EQ(factory::downcast<sample::Thing>(static_cast<factory::full::Wrappable*>(&thing)), &thing);
+    EXPECT_EQ(factory::downcast<sample::Thing>(static_cast<factory::full::Wrappable*>(&big)), &big);
+    EXPECT_EQ(factory::downcast<sample::BigThing>(static_cast<factory::full::Wrappable*>(&thing)), nullptr);
+    EXPECT_EQ(factory::downcast<const sample::Thing>(static_cast<const factory::full::Wrappable*>(&other)), nullptr);
+    EXPECT_EQ(factory::downcast<sample::Thing>(static_cast<factory::full::Wrappable*>(nullptr)), nullptr);
   }
 }
 

@@ -4,6 +4,7 @@
 #include <vorlo/VORInterface.hpp>
 #include <vorlo/VORValue.hpp>
 #include <vorlo/factory/basic/BindingRegistry.hpp>
+#include <vorlo/factory/downcast.hpp>
 #include <vorlo/factory/full/Wrappable.hpp>
 
 namespace vorlo::factory {
@@ -20,7 +21,7 @@ struct Marshaler {
     const HostArray* array = slot.array();
     if (hostIsEmpty(array)) return nullptr;
     const VORInterface* object = hostGetArrayElement(array, 0);
-    return object ? dynamic_cast<T*>(object->getNativeInstance(cls)) : nullptr;
+    return object ? downcast<T>(object->getNativeInstance(cls)) : nullptr;
   }
 
   /// The host array that stands for `object`, announced under the class it

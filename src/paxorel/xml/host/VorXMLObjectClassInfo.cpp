@@ -5,6 +5,7 @@
 
 #include <vorlo/VORClass.hpp>
 #include <vorlo/factory/basic/BindingRegistry.hpp>
+#include <vorlo/factory/downcast.hpp>
 #include <vorlo/factory/detail/initStringDataTypes.hpp>
 
 namespace paxorel::xml::mi {
@@ -19,7 +20,7 @@ void VorXMLObjectClassInfo::deallocateInstance(vorlo::VORInterface* /*object*/,
                                                vorlo::factory::full::Wrappable* instance) {
   if (!instance) return;
   vorlo::factory::basic::BindingRegistry::instance().remove(instance);
-  if (const auto* document = dynamic_cast<const Document*>(instance)) {
+  if (const auto* document = vorlo::factory::downcast<const Document>(instance)) {
     DocumentRegistry::getInstance()->unregisterDocument(document);
   } else {
     delete instance;
