@@ -22,6 +22,24 @@ InternedName makeInterned(std::string_view name) {
 
 InternedName makeInterned(const char* name) { return makeInterned(std::string_view(name ? name : "")); }
 
+InternedName makeInternedConstant(std::string_view name) {
+  struct Known {
+    const char* text;
+    std::size_t size;
+    InternedName name;
+  };
+  constexpr std::size_t kept = 8;
+  static Known known[kept];
+  static std::size_t next = 0;
+  for (const Known& entry : known) {
+    if (entry.text == name.data() && entry.size == name.size() && entry.text) return entry.name;
+  }
+  const InternedName interned = makeInterned(name);
+  known[next] = {name.data(), name.size(), interned};
+  next = (next + 1) % kept;
+  return interned;
+}
+
 }  // namespace internal
 
 namespace {

@@ -19,6 +19,10 @@ InternedName makeInterned(std::string name);
 /// The same without a string to give away: no allocation for a known name.
 InternedName makeInterned(std::string_view name);
 InternedName makeInterned(const char* name);
+/// The same for text that never changes at its address, such as a string
+/// literal: the names of the last few addresses are kept, so that asking
+/// again costs no lookup.
+InternedName makeInternedConstant(std::string_view name);
 }  // namespace internal
 
 /// A name held once by the platform: equal texts give equal names, so names

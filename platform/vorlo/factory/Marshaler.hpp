@@ -31,7 +31,7 @@ struct Marshaler {
   static HostArray* toMForPtr(const T* object, InternedName declared) {
     basic::BindingRegistry& registry = basic::BindingRegistry::instance();
     if (!object) return registry.announce(nullptr, declared);
-    return registry.announce(object, internal::makeInterned(Policy::typeName(*object)));
+    return registry.announce(object, internal::makeInternedConstant(Policy::typeName(*object)));
   }
 
   /// Binds the new `object` to the host object under construction in
@@ -39,7 +39,7 @@ struct Marshaler {
   template <class T>
   static void toMForConstructor(const T* object, HostArray* hostObject) {
     basic::BindingRegistry::instance().announceForConstructor(
-        object, internal::makeInterned(Policy::typeName(*object)), hostObject, true);
+        object, internal::makeInternedConstant(Policy::typeName(*object)), hostObject, true);
   }
 };
 

@@ -5,7 +5,8 @@
 namespace vorlo::factory {
 
 /// How the Marshaler treats native objects derived from `Base` that report
-/// their own host class: by a virtual getFullyQualifiedVorloTypeName().
+/// their own host class: by a virtual getFullyQualifiedVorloTypeName(), which
+/// gives a constant string (the same address always holds the same name).
 template <class Base>
 struct TypedXMLObjectPolicy {
   /// The host class that `object` reports; empty for a null name.
