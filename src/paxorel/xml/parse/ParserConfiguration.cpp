@@ -1,6 +1,7 @@
 #include <paxorel/xml/parse/ParserConfiguration.hpp>
 
 #include <paxorel/xml/core/XercesString.hpp>
+#include <paxorel/xml/parse/EntityExpansionLimit.hpp>
 
 #include <xercesc/dom/DOMConfiguration.hpp>
 #include <xercesc/dom/DOMLSParser.hpp>
@@ -111,5 +112,17 @@ void ParserConfiguration::setIdentityConstraintChecking(bool on) {
 }
 bool ParserConfiguration::getIgnoreCachedDTD() const { return flag(XMLUni::fgXercesIgnoreCachedDTD); }
 void ParserConfiguration::setIgnoreCachedDTD(bool on) { setFlag(XMLUni::fgXercesIgnoreCachedDTD, on); }
+
+std::optional<std::size_t> ParserConfiguration::getEntityExpansionLimit() const {
+  return detail::EntityExpansionLimit(configuration_).get();
+}
+void ParserConfiguration::setEntityExpansionLimit(std::optional<std::size_t> limit) {
+  detail::EntityExpansionLimit expansions(configuration_);
+  if (limit) {
+    expansions.set(*limit);
+  } else {
+    expansions.lift();
+  }
+}
 
 }  // namespace paxorel::xml
