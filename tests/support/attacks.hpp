@@ -1,0 +1,50 @@
+#pragma once
+
+// Attack documents that are made rather than kept in tests/attacks: the
+// large ones, smaller ones that show how an attack grows, and the ones that
+// name a path or a port of the run.
+
+#include <cstddef>
+#include <string>
+
+namespace testing_support::attacks {
+
+/// Where the top entity of laughs() is referenced.
+enum class Reference { content, attributeDefault };
+
+/// `levels` levels of entities, each ten references to the one below, over
+/// "lol": 10^levels of them. The kept billion_laughs.xml has nine levels,
+/// referenced from the content; attribute_default_laughs.xml references them
+/// from the default of an attribute declaration.
+inline std::string laughs(int levels, Reference where) {
+  std::string text = "<!DOCTYPE lolz [<!ENTITY lol0 'lol'>";
+  for (int level = 1; level <= levels; ++level) {
+    text += "<!ENTITY lol" + std::to_string(level) + " '";
+    for (int i = 0; i < 10; ++i) text += "&lol" + std::to_string(level - 1) + ";";
+    text += "'>";
+  }
+  const std::string top = "&lol" + std::to_string(levels) + ";";
+  if (where == Reference::content) return text + "]><lolz>" + top + "</lolz>";
+  return text + "<!ATTLIST lolz laughs CDATA '" + top + "'>]><lolz/>";
+}
+
+/// One entity of `length` characters, referenced `references` times: the
+/// document grows with the sum of the two, its expansion with the product.
+inline std::string quadraticBlowup(std::size_t length, std::size_t references) {
+  std::string text = "<!DOCTYPE r [<!ENTITY a '" + std::string(length, 'a') + "'>]><r>";
+  for (std::size_t i = 0; i < references; ++i) text += "&a;";
+  return text + "</r>";
+}
+
+/// The size of the quadratic blowup that README measures: 103 KB.
+inline std::string quadraticBlowup() { return quadraticBlowup(10'000, 31'000); }
+
+/// An external general entity with the system identifier `systemId`, referenced from the content.
+inline std::string externalEntity(const std::string& systemId) {
+  return "<!DOCTYPE r [<!ENTITY secret SYSTEM '" + systemId + "'>]><r>&secret;</r>";
+}
+
+/// A document whose external DTD has the system identifier `systemId`.
+inline std::string externalDtd(const std::string& systemId) { return "<!DOCTYPE r SYSTEM '" + systemId + "'><r/>"; }
+
+}  // namespace testing_support::attacks
