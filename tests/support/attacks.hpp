@@ -1,13 +1,25 @@
 #pragma once
 
-// Attack documents that are made rather than kept in tests/attacks: the
-// large ones, smaller ones that show how an attack grows, and the ones that
-// name a path or a port of the run.
+// The profile for untrusted input that README recommends, and the attack
+// documents that are made rather than kept in tests/attacks: the large ones,
+// smaller ones that show how an attack grows, and the ones that name a path
+// or a port of the run.
+
+#include <paxorel/xml/parse/ParserConfiguration.hpp>
 
 #include <cstddef>
 #include <string>
 
 namespace testing_support::attacks {
+
+/// No external entity, DTD or inclusion is read, and a parse expands at most
+/// `limit` entities.
+inline void applySafeProfile(paxorel::xml::ParserConfiguration& options, std::size_t limit) {
+  options.setDisableDefaultEntityResolution(true);
+  options.setLoadExternalDTD(false);
+  options.setDoXInclude(false);
+  options.setEntityExpansionLimit(limit);
+}
 
 /// Where the top entity of laughs() is referenced.
 enum class Reference { content, attributeDefault };

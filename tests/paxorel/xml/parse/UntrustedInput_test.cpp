@@ -23,12 +23,7 @@ namespace {
 
 const std::string kept = PAXOREL_TEST_ATTACKS;  // the directory of the kept attack files
 
-// The profile for untrusted input that still takes internal subsets.
-void safeProfile(ParserConfiguration& options) {
-  options.setDisableDefaultEntityResolution(true);
-  options.setLoadExternalDTD(false);
-  options.setEntityExpansionLimit(1000);
-}
+void safeProfile(ParserConfiguration& options) { applySafeProfile(options, 1000); }
 void defaults(ParserConfiguration& /*options*/) {}
 void entitiesOff(ParserConfiguration& options) { options.setEntities(false); }
 void noDoctype(ParserConfiguration& options) { options.setDisallowDoctype(true); }
@@ -233,4 +228,22 @@ TEST(UntrustedInput, ACallerThatTrustsADocumentReadsItsLocalDtdOnPurposeWithTheL
   EXPECT_EQ(options->getEntityExpansionLimit(), 1000u);
   EXPECT_XML_ERROR(parser.parseString(u(laughs(3, Reference::content))), "parseStringError",
                    u(laughs(3, Reference::content)), u(limited));
+}
+
+TEST(UntrustedInput, XIncludeReadsLocalFilesWhateverTheEntityOptionsSoTheProfileSwitchesItOff) {
+  const TempDir dir;
+  const std::string href = std::filesystem::relative(kept + "/secret.txt", dir.dir()).string();
+  const Input including = path(dir.write(
+      "including.xml", "<r><xi:include xmlns:xi='http://www.w3.org/2001/XInclude' href='" + href + "' parse='text'/></r>"));
+  EXPECT_EQ(outcome(including, [](ParserConfiguration& options) {
+              options.setDisableDefaultEntityResolution(true);
+              options.setLoadExternalDTD(false);
+              options.setDoXInclude(true);
+            }),
+            "TOP SECRET @xmlns=");  // Xerces's inclusion leaves an empty default namespace on the root
+  EXPECT_EQ(outcome(including, [](ParserConfiguration& options) {
+              options.setDoXInclude(true);
+              safeProfile(options);
+            }),
+            "");
 }
