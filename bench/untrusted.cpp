@@ -1,0 +1,244 @@
+// What each attack file does to a parse under Xerces's defaults and under
+// the profiles for untrusted input: the outcome, the growth of the peak
+// resident memory, and the time, each parse in a process of its own under a
+// memory cap and a time limit. Prints the table of README's "Parsing
+// untrusted input" (./dev attacks). http: identifiers name a loopback port
+// that this program holds and never listens on: nothing leaves the machine.
+#include "support/attacks.hpp"
+
+#include <paxorel/xml.hpp>
+
+#include <basis/text/utf.hpp>
+
+#include <netinet/in.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <iomanip>
+#include <iostream>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+using namespace paxorel::xml;
+namespace attacks = testing_support::attacks;
+
+namespace {
+
+constexpr rlim_t memoryCap = 6ULL << 30;  // bytes of address space a parse may take
+constexpr unsigned timeLimit = 120;         // seconds
+constexpr int repetitions = 5;
+
+struct Profile {
+  const char* name;
+  void (*apply)(ParserConfiguration&);
+};
+
+const Profile profiles[] = {
+    {"Xerces's defaults", [](ParserConfiguration&) {}},
+    {"what the host can set", [](ParserConfiguration& options) {
+       options.setDisableDefaultEntityResolution(true);
+       options.setLoadExternalDTD(false);
+     }},
+    {"safe profile", [](ParserConfiguration& options) { attacks::applySafeProfile(options, 1000); }},
+    {"DisallowDoctype", [](ParserConfiguration& options) { options.setDisallowDoctype(true); }},
+};
+
+// A document, parsed from its path or, when `asText`, from its text.
+struct Attack {
+  std::string name;
+  std::string path;
+  bool asText;
+};
+
+// One parse: what came of it, how much the peak resident set grew, how long it took.
+struct Measurement {
+  std::string outcome;
+  double megabytes = 0;
+  double seconds = 0;
+};
+
+long peakResidentKilobytes() {
+  std::ifstream status("/proc/self/status");
+  const std::string field = "VmHWM:";
+  for (std::string line; std::getline(status, line);) {
+    if (line.rfind(field, 0) == 0) return std::stol(line.substr(field.size()));
+  }
+  throw std::runtime_error("no VmHWM in /proc/self/status");
+}
+
+std::string contents(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+// A failure's message, put short.
+std::string summary(const std::string& message) {
+  const std::pair<const char*, const char*> known[] = {
+      {"entity expansions", "refused: expansion limit"},
+      {"unable to open", "refused: not resolved"},
+      {"unable to connect socket", "fetch tried"},
+      {"recursive entity", "refused: recursion"},
+      {"invalid document structure", "refused: doctype"},
+  };
+  for (const auto& [fragment, said] : known) {
+    if (message.find(fragment) != std::string::npos) return said;
+  }
+  return "refused: " + message;
+}
+
+// The child's side: parses once and reports on one line.
+std::string parseOnce(const Attack& attack, const Profile& profile) {
+  const Parser parser;
+  profile.apply(*std::unique_ptr<ParserConfiguration>(parser.getConfiguration()));
+  const std::string text = attack.asText ? contents(attack.path) : std::string();
+  const long before = peakResidentKilobytes();
+  const auto start = std::chrono::steady_clock::now();
+  std::string outcome;
+  try {
+    const auto document = DocumentRegistry::shareWithCaller(
+        attack.asText ? parser.parseString(basis::text::from_utf8(text))
+                      : parser.parseURI(basis::text::from_utf8(attack.path)));
+    const std::string content = basis::text::to_utf8(document->getTextContent());
+    outcome = content.size() <= 20 ? "parses" + (content.empty() ? "" : ": \"" + content + "\"") : "parses";
+  } catch (const basis::except::IMsgIDException& e) {
+    outcome = summary(e.what());
+  } catch (...) {
+    outcome = "fails: out of memory";
+  }
+  const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  std::ostringstream line;
+  line << static_cast<double>(peakResidentKilobytes() - before) / 1024 << ' ' << seconds << ' ' << outcome;
+  return line.str();
+}
+
+// The parent's side: one parse in a fresh process under the cap and the limit.
+Measurement measureOnce(const Attack& attack, const Profile& profile) {
+  int pipe[2];
+  if (::pipe(pipe) != 0) throw std::runtime_error("pipe");
+  std::cout.flush();
+  const pid_t child = fork();
+  if (child == 0) {
+    ::close(pipe[0]);
+    const rlimit cap{memoryCap, memoryCap};
+    setrlimit(RLIMIT_AS, &cap);
+    alarm(timeLimit);
+    const std::string line = parseOnce(attack, profile);
+    static_cast<void>(::write(pipe[1], line.data(), line.size()));
+    _exit(0);
+  }
+  ::close(pipe[1]);
+  const auto start = std::chrono::steady_clock::now();
+  std::string output;
+  char buffer[512];
+  for (ssize_t got; (got = ::read(pipe[0], buffer, sizeof buffer)) > 0;) output.append(buffer, got);
+  ::close(pipe[0]);
+  int status = 0;
+  waitpid(child, &status, 0);
+  Measurement measured;
+  std::istringstream line(output);
+  if (line >> measured.megabytes >> measured.seconds && std::getline(line >> std::ws, measured.outcome)) {
+    return measured;
+  }
+  measured.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  measured.megabytes = static_cast<double>(memoryCap >> 20);
+  measured.outcome = WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM ? "killed at the time limit" : "crashed";
+  return measured;
+}
+
+// The median of the repetitions; a single run when the first takes a second or more.
+Measurement measure(const Attack& attack, const Profile& profile) {
+  std::vector<Measurement> runs{measureOnce(attack, profile)};
+  runs.reserve(repetitions);
+  while (runs.front().seconds < 1 && runs.size() < repetitions) runs.push_back(measureOnce(attack, profile));
+  const auto median = [&runs](double Measurement::*field) {
+    std::sort(runs.begin(), runs.end(), [field](const auto& a, const auto& b) { return a.*field < b.*field; });
+    return runs[runs.size() / 2];
+  };
+  Measurement result = median(&Measurement::seconds);
+  result.megabytes = median(&Measurement::megabytes).megabytes;
+  return result;
+}
+
+std::string fixed(double value, int decimals) {
+  std::ostringstream text;
+  text << std::fixed << std::setprecision(decimals) << value;
+  return text.str();
+}
+
+std::string cell(const Measurement& measured) {
+  const double ms = measured.seconds * 1000;
+  const std::string time = ms < 10       ? fixed(ms, 2) + " ms"
+                           : ms < 10'000 ? fixed(ms, 0) + " ms"
+                                         : fixed(measured.seconds, 0) + " s";
+  return measured.outcome + "; " + fixed(measured.megabytes, 1) + " MB, " + time;
+}
+
+std::string kilobytes(const std::string& path) {
+  return fixed(static_cast<double>(std::filesystem::file_size(path)) / 1024, 1) + " KB";
+}
+
+// A loopback port held bound and never listened on: connections to it are refused.
+int refusingPort(int& socket) {
+  socket = ::socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  socklen_t size = sizeof address;
+  auto* any = reinterpret_cast<sockaddr*>(&address);
+  if (socket < 0 || ::bind(socket, any, size) != 0 || ::getsockname(socket, any, &size) != 0) {
+    throw std::runtime_error("cannot bind a loopback port");
+  }
+  return ntohs(address.sin_port);
+}
+
+}  // namespace
+
+int main() {
+  namespace fs = std::filesystem;
+  const std::string kept = PAXOREL_TEST_ATTACKS;
+  const fs::path made = fs::temp_directory_path() / ("paxorel-attacks-" + std::to_string(getpid()));
+  fs::create_directories(made);
+  const auto write = [&made](const std::string& name, const std::string& text) {
+    std::ofstream((made / name).string(), std::ios::binary) << text;
+    return (made / name).string();
+  };
+  int socket = -1;
+  const std::string http = "http://127.0.0.1:" + std::to_string(refusingPort(socket));
+  const std::string secret = kept + "/secret.txt";
+  const std::vector<Attack> list = {
+      {"billion laughs", kept + "/billion_laughs.xml", false},
+      {"quadratic blowup", write("quadratic.xml", attacks::quadraticBlowup()), false},
+      {"laughs in an attribute default", kept + "/attribute_default_laughs.xml", false},
+      {"recursive entities", kept + "/recursive_entities.xml", false},
+      {"XXE, absolute path", write("absolute.xml", attacks::externalEntity(secret)), false},
+      {"XXE, relative to the document", kept + "/xxe_relative.xml", false},
+      {"XXE, relative to the working directory (parseString)",
+       write("relative.xml", attacks::externalEntity(fs::relative(secret).string())), true},
+      {"XXE, parameter entity", kept + "/xxe_parameter.xml", false},
+      {"external DTD over http", write("http_dtd.xml", attacks::externalDtd(http + "/r.dtd")), false},
+      {"external entity over http", write("http_entity.xml", attacks::externalEntity(http + "/secret")), false},
+      {"ordinary: internal subset", kept + "/internal_subset.xml", false},
+      {"ordinary: local external DTD", kept + "/external_dtd.xml", false},
+  };
+  std::cout << "| Attack | Size |";
+  for (const Profile& profile : profiles) std::cout << ' ' << profile.name << " |";
+  std::cout << "\n|---|---|";
+  for (std::size_t i = 0; i < std::size(profiles); ++i) std::cout << "---|";
+  std::cout << '\n';
+  for (const Attack& attack : list) {
+    std::cout << "| " << attack.name << " | " << kilobytes(attack.path) << " |";
+    for (const Profile& profile : profiles) std::cout << ' ' << cell(measure(attack, profile)) << " |" << std::flush;
+    std::cout << '\n';
+  }
+  ::close(socket);
+  fs::remove_all(made);
+  return 0;
+}
