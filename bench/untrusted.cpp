@@ -37,6 +37,7 @@ namespace {
 constexpr rlim_t memoryCap = 6ULL << 30;  // bytes of address space a parse may take
 constexpr double timeLimit = 60;            // seconds a parse may take
 constexpr int repetitions = 5;
+const std::string stopped = "stopped";  // the outcome of a parse still running at the time limit
 
 struct Profile {
   const char* name;
@@ -45,12 +46,12 @@ struct Profile {
 
 const Profile profiles[] = {
     {"Xerces's defaults", [](ParserConfiguration&) {}},
-    {"what the host can set", [](ParserConfiguration& options) {
+    {"The host's options", [](ParserConfiguration& options) {
        options.setDisableDefaultEntityResolution(true);
        options.setLoadExternalDTD(false);
      }},
-    {"safe profile", [](ParserConfiguration& options) { attacks::applySafeProfile(options, 1000); }},
-    {"DisallowDoctype", [](ParserConfiguration& options) { options.setDisallowDoctype(true); }},
+    {"Safe profile", [](ParserConfiguration& options) { attacks::applySafeProfile(options, 1000); }},
+    {"`DisallowDoctype`", [](ParserConfiguration& options) { options.setDisallowDoctype(true); }},
 };
 
 // A document, parsed from its path or, when `asText`, from its text.
@@ -149,12 +150,12 @@ Measurement measureOnce(const Attack& attack, const Profile& profile) {
   const auto elapsed = [start] { return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count(); };
   std::string output;
   long peak = 0;
-  bool stopped = false;
+  bool killed = false;
   for (pollfd reply{pipe[0], POLLIN, 0};;) {
     if (::poll(&reply, 1, 100) == 0) {
       peak = std::max(peak, peakResidentKilobytes(std::to_string(child)));
       if (elapsed() > timeLimit) {
-        stopped = ::kill(child, SIGKILL) == 0;
+        killed = ::kill(child, SIGKILL) == 0;
         break;
       }
       continue;
@@ -169,12 +170,12 @@ Measurement measureOnce(const Attack& attack, const Profile& profile) {
   waitpid(child, &status, 0);
   Measurement measured;
   std::istringstream line(output);
-  if (!stopped && line >> measured.megabytes >> measured.seconds && std::getline(line >> std::ws, measured.outcome)) {
+  if (!killed && line >> measured.megabytes >> measured.seconds && std::getline(line >> std::ws, measured.outcome)) {
     return measured;
   }
   measured.seconds = elapsed();
   measured.megabytes = static_cast<double>(peak) / 1024;
-  measured.outcome = stopped ? "stopped, still running" : "crashed";
+  measured.outcome = killed ? stopped : "crashed";
   return measured;
 }
 
@@ -203,7 +204,10 @@ std::string cell(const Measurement& measured) {
   const std::string time = ms < 10       ? fixed(ms, 2) + " ms"
                            : ms < 10'000 ? fixed(ms, 0) + " ms"
                                          : fixed(measured.seconds, 0) + " s";
-  return measured.outcome + "; " + fixed(measured.megabytes, 1) + " MB, " + time;
+  const std::string memory = measured.megabytes >= 1024 ? fixed(measured.megabytes / 1024, 1) + " GB"
+                                                        : fixed(measured.megabytes, 1) + " MB";
+  if (measured.outcome == stopped) return "stopped at " + memory + ", " + time;
+  return measured.outcome + "; " + memory + ", " + time;
 }
 
 std::string kilobytes(const std::string& path) {
