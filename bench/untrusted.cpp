@@ -4,17 +4,16 @@
 // memory cap and a time limit. Prints the table of README's "Parsing
 // untrusted input" (./dev attacks). http: identifiers name a loopback port
 // that this program holds and never listens on: nothing leaves the machine.
+#include "support/LoopbackPort.hpp"
 #include "support/attacks.hpp"
 
 #include <paxorel/xml.hpp>
 
 #include <basis/text/utf.hpp>
 
-#include <netinet/in.h>
 #include <poll.h>
 #include <signal.h>
 #include <sys/resource.h>
-#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -214,20 +213,6 @@ std::string kilobytes(const std::string& path) {
   return fixed(static_cast<double>(std::filesystem::file_size(path)) / 1024, 1) + " KB";
 }
 
-// A loopback port held bound and never listened on: connections to it are refused.
-int refusingPort(int& socket) {
-  socket = ::socket(AF_INET, SOCK_STREAM, 0);
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  socklen_t size = sizeof address;
-  auto* any = reinterpret_cast<sockaddr*>(&address);
-  if (socket < 0 || ::bind(socket, any, size) != 0 || ::getsockname(socket, any, &size) != 0) {
-    throw std::runtime_error("cannot bind a loopback port");
-  }
-  return ntohs(address.sin_port);
-}
-
 }  // namespace
 
 // With an argument, only the attacks whose names hold it.
@@ -241,8 +226,7 @@ int main(int argc, char** argv) {
     std::ofstream((made / name).string(), std::ios::binary) << text;
     return (made / name).string();
   };
-  int socket = -1;
-  const std::string http = "http://127.0.0.1:" + std::to_string(refusingPort(socket));
+  const testing_support::LoopbackPort refusing(false);
   const std::string secret = kept + "/secret.txt";
   const std::vector<Attack> list = {
       {"billion laughs", kept + "/billion_laughs.xml", false},
@@ -256,8 +240,8 @@ int main(int argc, char** argv) {
       {"XXE, relative to the working directory (parseString)",
        write("relative.xml", attacks::externalEntity(fs::relative(secret).string())), true},
       {"XXE, parameter entity", kept + "/xxe_parameter.xml", false},
-      {"external DTD over http", write("http_dtd.xml", attacks::externalDtd(http + "/r.dtd")), false},
-      {"external entity over http", write("http_entity.xml", attacks::externalEntity(http + "/secret")), false},
+      {"external DTD over http", write("http_dtd.xml", attacks::externalDtd(refusing.url("/r.dtd"))), false},
+      {"external entity over http", write("http_entity.xml", attacks::externalEntity(refusing.url("/secret"))), false},
       {"ordinary: internal subset", kept + "/internal_subset.xml", false},
       {"ordinary: local external DTD", kept + "/external_dtd.xml", false},
   };
@@ -272,7 +256,6 @@ int main(int argc, char** argv) {
     for (const Profile& profile : profiles) std::cout << ' ' << cell(measure(attack, profile)) << " |" << std::flush;
     std::cout << '\n';
   }
-  ::close(socket);
   fs::remove_all(made);
   return 0;
 }

@@ -4,11 +4,11 @@
 // and with DisallowDoctype. Attacks that would take gigabytes under the
 // defaults run there in smaller sizes that show the growth. Nothing leaves
 // the machine: every http: identifier names a loopback port of the test's own.
+#include "support/LoopbackPort.hpp"
 #include "support/attacks.hpp"
 #include "support/expectations.hpp"
 
 #include <netinet/in.h>
-#include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -64,40 +64,6 @@ std::string outcome(const Input& input, Profile profile) {
            basis::text::to_utf8(std::get<ustring>(e.GetBaseMsgIDObj().args.back()));
   }
 }
-
-// A loopback TCP port of the test's own, bound so that nobody else takes it.
-// Listening, it queues connections and never accepts them; not listening,
-// it refuses them at once.
-class LoopbackPort {
- public:
-  explicit LoopbackPort(bool listening) : socket_(::socket(AF_INET, SOCK_STREAM, 0)) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto* any = reinterpret_cast<sockaddr*>(&address);
-    if (socket_ < 0 || ::bind(socket_, any, size) != 0 || ::getsockname(socket_, any, &size) != 0 ||
-        (listening && ::listen(socket_, 8) != 0)) {
-      throw std::runtime_error("cannot bind a loopback port");
-    }
-    port_ = ntohs(address.sin_port);
-  }
-  ~LoopbackPort() { ::close(socket_); }
-  LoopbackPort(const LoopbackPort&) = delete;
-  LoopbackPort& operator=(const LoopbackPort&) = delete;
-
-  std::uint16_t port() const { return port_; }
-  std::string url(const std::string& path) const { return "http://127.0.0.1:" + std::to_string(port_) + path; }
-  /// Whether a connection waits to be accepted.
-  bool called() const {
-    pollfd waiting{socket_, POLLIN, 0};
-    return ::poll(&waiting, 1, 0) > 0;
-  }
-
- private:
-  int socket_;
-  std::uint16_t port_ = 0;
-};
 
 // The outcome of one attack under each profile; null where the test does not
 // run it (it would take gigabytes: the smaller rows show the growth).
