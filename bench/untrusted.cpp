@@ -213,11 +213,8 @@ std::string kilobytes(const std::string& path) {
   return fixed(static_cast<double>(std::filesystem::file_size(path)) / 1024, 1) + " KB";
 }
 
-}  // namespace
-
-// With an argument, only the attacks whose names hold it.
-int main(int argc, char** argv) {
-  const std::string only = argc > 1 ? argv[1] : "";
+// Measures every attack whose name holds `only`, and prints the table.
+void run(const std::string& only) {
   namespace fs = std::filesystem;
   const std::string kept = PAXOREL_TEST_ATTACKS;
   const fs::path made = fs::temp_directory_path() / ("paxorel-attacks-" + std::to_string(getpid()));
@@ -257,5 +254,17 @@ int main(int argc, char** argv) {
     std::cout << '\n';
   }
   fs::remove_all(made);
-  return 0;
+}
+
+}  // namespace
+
+// With an argument, only the attacks whose names hold it.
+int main(int argc, char** argv) {
+  try {
+    run(argc > 1 ? argv[1] : "");
+    return 0;
+  } catch (const std::exception& e) {
+    std::cerr << "paxorel_untrusted: " << e.what() << '\n';
+    return 1;
+  }
 }
