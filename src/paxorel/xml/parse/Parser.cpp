@@ -6,6 +6,7 @@
 #include <paxorel/xml/core/raiseXmlError.hpp>
 #include <paxorel/xml/dom/Document.hpp>
 #include <paxorel/xml/dom/DocumentRegistry.hpp>
+#include <paxorel/xml/parse/EntityExpansionLimit.hpp>
 #include <paxorel/xml/parse/ParserConfiguration.hpp>
 
 #include <basis/filesystem/filesystem.hpp>
@@ -45,7 +46,12 @@ struct InputReleaser {
 Parser::Parser() : ls_(lsImplementation()) {
   xercesc::DOMLSParser* parser = ls_->createLSParser(xercesc::DOMImplementationLS::MODE_SYNCHRONOUS, nullptr,
                                                      XMLPlatformUtils::fgMemoryManager, nullptr);
-  parser_.reset(parser, [](xercesc::DOMLSParser* p) { p->release(); });
+  // Xerces does not own what an entity-expansion limit installs; the parser
+  // takes it along when it goes.
+  parser_.reset(parser, [](xercesc::DOMLSParser* p) {
+    detail::EntityExpansionLimit(p->getDomConfig()).lift();
+    p->release();
+  });
   // Each parsed tree belongs to its Document, not to the parser.
   parser_->getDomConfig()->setParameter(XMLUni::fgXercesUserAdoptsDOMDocument, true);
 }

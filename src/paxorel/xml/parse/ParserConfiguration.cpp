@@ -2,6 +2,7 @@
 
 #include <paxorel/xml/core/XercesString.hpp>
 #include <paxorel/xml/core/raiseXmlError.hpp>
+#include <paxorel/xml/parse/EntityExpansionLimit.hpp>
 
 #include <xercesc/dom/DOMConfiguration.hpp>
 #include <xercesc/dom/DOMLSParser.hpp>
@@ -117,5 +118,17 @@ void ParserConfiguration::setIdentityConstraintChecking(bool on) {
 }
 bool ParserConfiguration::getIgnoreCachedDTD() const { return flag(XMLUni::fgXercesIgnoreCachedDTD); }
 void ParserConfiguration::setIgnoreCachedDTD(bool on) { setFlag(XMLUni::fgXercesIgnoreCachedDTD, on); }
+
+std::optional<std::size_t> ParserConfiguration::getEntityExpansionLimit() const {
+  return detail::EntityExpansionLimit(configuration()).get();
+}
+void ParserConfiguration::setEntityExpansionLimit(std::optional<std::size_t> limit) {
+  detail::EntityExpansionLimit expansions(configuration());
+  if (limit) {
+    expansions.set(*limit);
+  } else {
+    expansions.lift();
+  }
+}
 
 }  // namespace paxorel::xml

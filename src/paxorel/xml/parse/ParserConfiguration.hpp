@@ -4,7 +4,9 @@
 #include <paxorel/xml/core/ustring.hpp>
 #include <paxorel/xml/dom/XMLObject.hpp>
 
+#include <cstddef>
 #include <memory>
+#include <optional>
 
 namespace paxorel::xml {
 
@@ -18,8 +20,10 @@ namespace paxorel::xml {
 /// (the native getIdentityConstraintChecking reads the true option).
 class ParserConfiguration : public XMLObject {
  public:
-  /// A view of `parser`'s options; it keeps the parser alive. A view of no
-  /// parser (null) fails every operation with emptyNodeArgument.
+  /// A view of `parser`'s options; it keeps the parser alive. The parser is
+  /// one that Parser made: its release frees what an entity-expansion limit
+  /// installs. A view of no parser (null) fails every operation with
+  /// emptyNodeArgument.
   explicit ParserConfiguration(std::shared_ptr<xercesc::DOMLSParser> parser);
   ~ParserConfiguration() override;
 
@@ -86,6 +90,16 @@ class ParserConfiguration : public XMLObject {
   void setIdentityConstraintChecking(bool on);
   bool getIgnoreCachedDTD() const;
   void setIgnoreCachedDTD(bool on);
+
+  /// The most entity expansions one parse may make, or no value for no limit
+  /// (the default). Every expansion of a declared entity counts, nested ones
+  /// included; predefined entities and character references do not. A parse
+  /// that goes past the limit fails as a malformed document does, with
+  /// Xerces's message. Installs Xerces's SecurityManager, which the parser
+  /// keeps until the limit is lifted or the parser goes.
+  std::optional<std::size_t> getEntityExpansionLimit() const;
+  /// Sets the limit (0 lets no entity be expanded) or, with no value, lifts it.
+  void setEntityExpansionLimit(std::optional<std::size_t> limit);
 
  private:
   xercesc::DOMConfiguration* configuration() const;  // emptyNodeArgument when missing

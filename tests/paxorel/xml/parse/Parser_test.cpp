@@ -187,4 +187,63 @@ TEST(ParserConfiguration, AViewOfNoParserFailsEveryOptionWithEmptyNodeArgument) 
   EXPECT_XML_ERROR(bare.setValidate(true), "emptyNodeArgument");
   EXPECT_XML_ERROR(bare.getExternalSchemaLocation(), "emptyNodeArgument");
   EXPECT_XML_ERROR(bare.setExternalNoNamespaceSchemaLocation(u"b.xsd"), "emptyNodeArgument");
+  EXPECT_XML_ERROR(bare.getEntityExpansionLimit(), "emptyNodeArgument");
+}
+
+TEST(ParserConfiguration, AnEntityExpansionLimitIsOffUntilSetAndReadsBackThroughEveryView) {
+  const auto orphan = [] {
+    const Parser parser;
+    const auto one = own(parser.getConfiguration()), two = own(parser.getConfiguration());
+    EXPECT_EQ(one->getEntityExpansionLimit(), std::nullopt);
+    one->setEntityExpansionLimit(5);
+    EXPECT_EQ(two->getEntityExpansionLimit(), 5u);
+    two->setEntityExpansionLimit(0);
+    EXPECT_EQ(one->getEntityExpansionLimit(), 0u);
+    one->setEntityExpansionLimit(std::nullopt);
+    EXPECT_EQ(two->getEntityExpansionLimit(), std::nullopt);
+    one->setEntityExpansionLimit(std::nullopt);  // lifting twice is harmless
+    two->setEntityExpansionLimit(7);
+    return own(parser.getConfiguration());
+  }();
+  EXPECT_EQ(orphan->getEntityExpansionLimit(), 7u);  // the parser object is gone, the limit lives on
+}
+
+namespace {
+
+struct Expansions {
+  const char* text;
+  std::size_t fewestAllowed;  // the smallest limit under which the text parses
+};
+
+const Expansions expansions[] = {
+    {"<r>&amp;&lt;&#65;&#x42;</r>", 0},                                      // predefined and character references are free
+    {"<!DOCTYPE r [<!ENTITY e 'x'>]><r>&e;</r>", 1},                        // one reference, one expansion
+    {"<!DOCTYPE r [<!ENTITY e 'x'>]><r>&e;&e;&e;</r>", 3},                  // each reference counts
+    {"<!DOCTYPE r [<!ENTITY a '&b;&b;'><!ENTITY b 'x'>]><r>&a;</r>", 3},    // nested ones too
+    {"<!DOCTYPE r [<!ENTITY e 'x'>]><r a='&e;&e;'/>", 2},                   // in attribute values as in content
+    {"<!DOCTYPE r [<!ENTITY e 'x'><!ATTLIST r a CDATA '&e;'>]><r/>", 0},  // a default the document does not use
+};
+
+}  // namespace
+
+TEST(ParserConfiguration, AParseGoingPastTheExpansionLimitFailsByItsOwnIdentifierEveryTime) {
+  TempDir dir;
+  for (const Expansions& example : expansions) {
+    const ustring text = u(example.text), uri = u(dir.write("doc.xml", example.text));
+    const Parser parser;
+    const auto options = own(parser.getConfiguration());
+    options->setEntityExpansionLimit(example.fewestAllowed);
+    EXPECT_NO_THROW(parser.parseString(text)) << example.text;
+    EXPECT_NO_THROW(parser.parseString(text)) << example.text;  // each parse counts afresh
+    if (example.fewestAllowed == 0) continue;
+    options->setEntityExpansionLimit(example.fewestAllowed - 1);
+    const ustring message = messageOf([&] { parser.parseString(text); });
+    EXPECT_NE(message.find(u("more than '" + std::to_string(example.fewestAllowed - 1) + "' entity expansions")),
+              ustring::npos)
+        << example.text;
+    EXPECT_XML_ERROR(parser.parseString(text), "parseStringError", text, message);
+    EXPECT_XML_ERROR(parser.parseURI(uri), "parseFileError", uri, message);
+    options->setEntityExpansionLimit(std::nullopt);
+    EXPECT_NO_THROW(parser.parseURI(uri)) << example.text;
+  }
 }
