@@ -9,6 +9,9 @@ import sys
 import textwrap
 import weakref
 
+import pytest
+
+import zelmar
 import zelmar.io.xml.dom as dom
 
 XML = "<r><a id='1'>one</a><b/></r>"
@@ -54,6 +57,18 @@ def test_nodes_keep_their_document_after_python_lets_it_go():
     del document
     gc.collect()
     assert a.getLastChild().getTagName() == "z"
+
+
+def test_a_document_reached_after_python_let_go_of_it_has_no_entry_until_it_is_asked_for():
+    root = dom.Parser().parseString(XML).getDocumentElement()
+    gc.collect()
+    parent = root.getParentNode()  # the document, kept by its nodes, without a registry entry
+    assert parent.getNodeName() == "#document" and parent.getNodeType() == 9
+    with pytest.raises(zelmar.Error) as raised:
+        parent.getDocumentElement()
+    assert raised.value.identifier == "std:out_of_range"
+    assert root.getOwnerDocument() is parent  # given out again, with its entry
+    assert parent.getDocumentElement().isSameNode(root)
 
 
 def test_objects_outlive_their_parser_and_configuration():
