@@ -15,7 +15,7 @@ import zelmar
 # set no size of their own take it from the profile: "zelmar" keeps ./dev test
 # quick; HYPOTHESIS_PROFILE=soak runs them long.
 settings.register_profile("zelmar", database=None, deadline=None, max_examples=40, stateful_step_count=30)
-settings.register_profile("soak", settings.get_profile("zelmar"), max_examples=5000)
+settings.register_profile("soak", settings.get_profile("zelmar"), max_examples=1000)
 settings.load_profile(os.environ.get("HYPOTHESIS_PROFILE", "zelmar"))
 
 BUILD = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(zelmar.__file__))))
