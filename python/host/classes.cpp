@@ -138,7 +138,10 @@ void endInstance(PyObject* object) {
   PyObject* type = nullptr;
   PyObject* value = nullptr;
   PyObject* traceback = nullptr;
-  PyErr_Fetch(&type, &value, &traceback);
+  // An error set while the object goes (a call that failed and let go of
+  // its arguments) is kept aside for the hook.
+  const bool pending = PyErr_Occurred() != nullptr;
+  if (pending) PyErr_Fetch(&type, &value, &traceback);
   {
     const Gate::Entry entry;
     try {
@@ -148,7 +151,7 @@ void endInstance(PyObject* object) {
       PyErr_WriteUnraisable(reinterpret_cast<PyObject*>(Py_TYPE(object)));
     }
   }
-  PyErr_Restore(type, value, traceback);
+  if (pending) PyErr_Restore(type, value, traceback);
   instance->interface().~Interface();
   Py_TYPE(object)->tp_free(object);
 }
@@ -292,7 +295,9 @@ ClassEntry& entryOf(vorlo::VORClass& cls) {
     } else {
       entry->type = check(PyObject_CallFunction(plainClassMaker, "s", cls.getInternedFullName().c_str()));
     }
-    byType->emplace(reinterpret_cast<PyTypeObject*>(entry->type), entry.get());
+    auto* type = reinterpret_cast<PyTypeObject*>(entry->type);
+    entry->hosted = PyType_Check(type) && PyType_IsSubtype(type, &HostObjectType);
+    byType->emplace(type, entry.get());
   } catch (...) {
     inTheMaking.erase(&cls);
     throw;

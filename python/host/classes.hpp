@@ -56,6 +56,7 @@ inline PyObject* pythonObject(const vorlo::VORInterface& object) noexcept {
 struct ClassEntry {
   vorlo::VORClass* cls = nullptr;
   PyObject* type = nullptr;                  ///< its Python class, kept for the life of the process
+  bool hosted = false;                       ///< whether its objects are host objects (of HostObject)
   std::vector<Overload> constructors;        ///< in registration order
   std::vector<std::string> abstractMethods;  ///< what a Python subclass implements, its bases' included
 };

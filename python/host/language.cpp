@@ -52,12 +52,12 @@ class References {
 class PythonLanguage final : public host::Language {
  public:
   vorlo::VORInterface* createObject(vorlo::VORClass& cls) override {
-    auto* type = reinterpret_cast<PyTypeObject*>(entryOf(cls).type);
-    if (!PyType_Check(type) || !PyType_IsSubtype(type, &HostObjectType)) {
+    const ClassEntry& entry = entryOf(cls);
+    if (!entry.hosted) {
       PyErr_Format(PyExc_TypeError, "the class %s has values, not host objects", cls.getInternedFullName().c_str());
       throwPythonError();
     }
-    return &interfaceOf(newInstance(type, cls));
+    return &interfaceOf(newInstance(reinterpret_cast<PyTypeObject*>(entry.type), cls));
   }
 
   void retain(vorlo::VORInterface& object) noexcept override { Py_INCREF(pythonObject(object)); }

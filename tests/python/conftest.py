@@ -11,9 +11,12 @@ from hypothesis import settings
 
 import zelmar
 
-# No example database in the work tree: each run draws afresh.
-settings.register_profile("zelmar", database=None)
-settings.load_profile("zelmar")
+# No example database in the work tree: each run draws afresh. Tests that
+# set no size of their own take it from the profile: "zelmar" keeps ./dev test
+# quick; HYPOTHESIS_PROFILE=soak runs them long.
+settings.register_profile("zelmar", database=None, deadline=None, max_examples=40, stateful_step_count=30)
+settings.register_profile("soak", settings.get_profile("zelmar"), max_examples=1000)
+settings.load_profile(os.environ.get("HYPOTHESIS_PROFILE", "zelmar"))
 
 BUILD = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(zelmar.__file__))))
 TEST_PACKAGE = os.path.join(BUILD, "tests", "python", "libzelmar_testpackage.so")
