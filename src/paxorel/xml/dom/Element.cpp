@@ -4,6 +4,7 @@
 #include <paxorel/xml/core/XercesString.hpp>
 #include <paxorel/xml/core/raiseXmlError.hpp>
 #include <paxorel/xml/dom/Attr.hpp>
+#include <paxorel/xml/dom/DocumentOrder.hpp>
 #include <paxorel/xml/dom/NodeList.hpp>
 #include <paxorel/xml/dom/TypeInfo.hpp>
 
@@ -22,15 +23,6 @@ namespace {
 
 // The attribute of an Attr argument of an operation of `self`.
 DOMAttr* attrOf(const Element& self, const Attr* attr) { return static_cast<DOMAttr*>(Node::implOf(self, attr)); }
-
-// The node after `node` in document order, within the tree of `root`.
-const DOMNode* nextInDocument(const DOMNode* node, const DOMNode* root) {
-  if (const DOMNode* child = node->getFirstChild()) return child;
-  for (; node != root; node = node->getParentNode()) {
-    if (const DOMNode* sibling = node->getNextSibling()) return sibling;
-  }
-  return nullptr;
-}
 
 // Whether `node` lies inside an entity or an entity reference, the places
 // where the DOM makes elements read-only.
@@ -129,13 +121,13 @@ Element* Element::getNextElementSibling() const {
 double Element::getChildElementCount() const { return toDouble(implAs<DOMElement>()->getChildElementCount()); }
 
 double Element::getNodeIndex() const {
-  // Iterative rather than recursive, so that a deep document cannot exhaust
-  // the stack; attribute nodes are counted but never entered, so their text
-  // children stay out of the count.
+  // Attribute nodes are counted but never entered, so their text children
+  // stay out of the count.
   const DOMElement* self = implAs<DOMElement>();
   const DOMNode* document = self->getOwnerDocument();
   std::int32_t index = 0;
-  for (const DOMNode* node = document->getFirstChild(); node; node = nextInDocument(node, document)) {
+  for (const DOMNode* node = document->getFirstChild(); node;
+       node = detail::nextInDocument(node, document, detail::References::entered)) {
     ++index;
     if (node == self) break;
     if (node->getNodeType() == DOMNode::ELEMENT_NODE) {
