@@ -6,6 +6,7 @@
 #include <paxorel/xml/dom/Attr.hpp>
 #include <paxorel/xml/dom/DocumentOrder.hpp>
 #include <paxorel/xml/dom/NodeList.hpp>
+#include <paxorel/xml/dom/ReleaseGuard.hpp>
 #include <paxorel/xml/dom/TypeInfo.hpp>
 
 #include <xercesc/dom/DOM.hpp>
@@ -141,7 +142,7 @@ double Element::getNodeIndex() const {
 
 void Element::setAttribute(const ustring& name, const ustring& value) {
   try {
-    implAs<DOMElement>()->setAttribute(XercesString(name), XercesString(value));
+    detail::ReleaseGuard::setAttribute(*implAs<DOMElement>(), XercesString(name), XercesString(value));
   } catch (const DOMException& e) {
     const ustring tag = getTagName();
     switch (e.code) {
@@ -155,7 +156,8 @@ void Element::setAttribute(const ustring& name, const ustring& value) {
 
 void Element::setAttributeNS(const ustring& namespaceURI, const ustring& qualifiedName, const ustring& value) {
   try {
-    implAs<DOMElement>()->setAttributeNS(XercesString(namespaceURI), XercesString(qualifiedName), XercesString(value));
+    detail::ReleaseGuard::setAttributeNS(*implAs<DOMElement>(), XercesString(namespaceURI), XercesString(qualifiedName),
+                                         XercesString(value));
   } catch (const DOMException& e) {
     const ustring tag = getTagName();
     switch (e.code) {
@@ -218,7 +220,7 @@ Attr* Element::removeAttributeNode(Attr* attr) {
 
 void Element::removeAttribute(const ustring& name) {
   try {
-    implAs<DOMElement>()->removeAttribute(XercesString(name));
+    detail::ReleaseGuard::removeAttribute(*implAs<DOMElement>(), XercesString(name));
   } catch (const DOMException& e) {
     if (e.code == DOMException::NO_MODIFICATION_ALLOWED_ERR) {
       raiseXmlError(*this, xml_error::elemRemoveAttrError(name, getTagName()));
@@ -228,7 +230,7 @@ void Element::removeAttribute(const ustring& name) {
 
 void Element::removeAttributeNS(const ustring& namespaceURI, const ustring& localName) {
   try {
-    implAs<DOMElement>()->removeAttributeNS(XercesString(namespaceURI), XercesString(localName));
+    detail::ReleaseGuard::removeAttributeNS(*implAs<DOMElement>(), XercesString(namespaceURI), XercesString(localName));
   } catch (const DOMException& e) {
     if (e.code == DOMException::NO_MODIFICATION_ALLOWED_ERR) {
       raiseXmlError(*this, xml_error::elemRemoveAttrError(localName, getTagName()));

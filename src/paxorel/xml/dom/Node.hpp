@@ -167,6 +167,10 @@ class Node : public XMLObject {
  private:
   friend class Document;  // renames nodes in place
 
+  /// A wrapper of `node` (may be null), which a child or sibling link of this
+  /// node gave.
+  Node* linked(xercesc::DOMNode* node) const;
+
   xercesc::DOMNode* impl_;
   std::shared_ptr<Document> owner_;
   xercesc::DOMNodeList* childList_ = nullptr;  // the live child list, fetched once

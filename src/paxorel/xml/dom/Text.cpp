@@ -1,6 +1,7 @@
 #include <paxorel/xml/dom/Text.hpp>
 
 #include <paxorel/xml/core/Conversions.hpp>
+#include <paxorel/xml/dom/WrappedText.hpp>
 
 #include <xercesc/dom/DOMText.hpp>
 
@@ -13,7 +14,9 @@ Text::Text(DOMText* impl, std::shared_ptr<Document> owner) : CharacterData(impl,
 const char* Text::getFullyQualifiedVorloTypeName() const { return "zelmar.io.xml.dom.Text"; }
 
 Text* Text::splitText(double offset) {
-  DOMText* rest = implAs<DOMText>()->splitText(conversionU(offset));
+  DOMText* text = implAs<DOMText>();
+  DOMText* rest = text->splitText(conversionU(offset));
+  detail::WrappedText::noteReached(*text, rest);
   return new Text(rest, getOwnerDocWrapper());
 }
 
