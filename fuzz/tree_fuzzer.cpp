@@ -120,6 +120,7 @@ class Session {
         // "map::at": a document whose callers had all let go
       }
       check(before);
+      if (nodes_.size() > maxWrappers) nodes_.erase(nodes_.begin(), nodes_.end() - maxWrappers);
     }
     for (const auto& kept : nodes_) read(kept.wrapper.get());
     dropAll();
@@ -193,10 +194,10 @@ class Session {
     return choices[input_.ConsumeIntegralInRange<std::size_t>(0, N - 1)];
   }
 
+  // Kept until the end of the step at least, since the step may still use
+  // the wrappers that were there before.
   void keep(Node* wrapper) {
-    if (!wrapper) return;
-    if (nodes_.size() == maxWrappers) nodes_.erase(nodes_.begin());
-    nodes_.push_back({std::unique_ptr<Node>(wrapper), ++serial_});
+    if (wrapper) nodes_.push_back({std::unique_ptr<Node>(wrapper), ++serial_});
   }
 
   // A wrapper of a node that did not exist before this step.
@@ -253,7 +254,8 @@ class Session {
       case 0: text->setData(pick(values)); break;
       case 1: text->appendData(pick(values)); break;
       default:
-        if (auto* splittable = dynamic_cast<Text*>(text)) made(splittable->splitText(input_.ConsumeIntegralInRange(0, 3)));
+        if (auto* splittable = dynamic_cast<Text*>(text))
+          made(splittable->splitText(input_.ConsumeIntegralInRange(0, 3)));
     }
   }
 
@@ -328,8 +330,8 @@ class Session {
     for (const Kept& kept : nodes_) {
       const Node& wrapper = *kept.wrapper;
       if (wrapper.getImpl()) {
-        all.push_back({kept.serial, wrapper.getImpl(), wrapper.getNodeType(), wrapper.getNodeName(),
-                       wrapper.getNodeValue()});
+        all.push_back(
+            {kept.serial, wrapper.getImpl(), wrapper.getNodeType(), wrapper.getNodeName(), wrapper.getNodeValue()});
       }
     }
     return all;
@@ -346,9 +348,8 @@ class Session {
       const Node& wrapper = *kept->wrapper;
       const DOMNode* now = wrapper.getImpl();
       if (now != was.node && !touched_.has(was.node)) std::abort();  // only renameNode moves a wrapper
-      if (!touched_.has(now) &&
-          (wrapper.getNodeType() != was.type || wrapper.getNodeName() != was.name ||
-           wrapper.getNodeValue() != was.value)) {
+      if (!touched_.has(now) && (wrapper.getNodeType() != was.type || wrapper.getNodeName() != was.name ||
+                                 wrapper.getNodeValue() != was.value)) {
         std::abort();
       }
       nodes.emplace_back(now, was.node);
