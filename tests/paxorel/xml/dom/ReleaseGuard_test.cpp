@@ -135,7 +135,13 @@ TEST(Release, EveryWayToATextOfAnAttributeValueKeepsIt) {
       {"last child", [](Attr& a) { return a.getLastChild(); }, u"+"},
       {"item", [](Attr& a) { return a.item(1); }, u"+"},
       {"child", [](Attr& a) { return a.child(2); }, u"+"},
-      {"children", [](Attr& a) { auto all = a.getChildren(); delete all[0]; return all[1]; }, u"+"},
+      {"children",
+       [](Attr& a) {
+         auto all = a.getChildren();
+         delete all[0];
+         return all[1];
+       },
+       u"+"},
       {"child list", [](Attr& a) { return own(a.getChildNodes())->item(1); }, u"+"},
       {"next sibling", [](Attr& a) { return own(a.getFirstChild())->getNextSibling(); }, u"+"},
       {"previous sibling", [](Attr& a) { return own(own(a.getLastChild())->getPreviousSibling())->getNextSibling(); },
@@ -204,7 +210,7 @@ TEST(Release, LevelOneAndNamespacedAttributesOfOneNameAreRemovedApart) {
   root->setAttribute(u"b", u"level1");  // no local name
   root->setAttributeNS(u"urn:n", u"b", u"namespaced");
   root->setAttribute(u"a", u"1");
-  const auto levelOne = own(root->getAttributes()->getNamedItemNS(u"", u"b"));
+  const auto levelOne = own(own(root->getAttributes())->getNamedItemNS(u"", u"b"));
   const auto namespaced = own(root->getAttributeNodeNS(u"urn:n", u"b"));
   root->removeAttributeNS(u"", u"b");
   EXPECT_EQ(own(root->getAttributes())->getLength(), 2);
