@@ -22,7 +22,7 @@ void mark(DOMNode& node) {
 
 // From an attribute a link leads to its child; from a marked text node to a
 // sibling in the same attribute (or out of one that it has left).
-void WrappedText::noteReached(const DOMNode& from, DOMNode* node) {
+void WrappedText::noteLinked(const DOMNode& from, DOMNode* node) {
   if (node && isText(*node) && (isAttribute(from) || isMarked(from))) mark(*node);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <paxorel/xml/core/XercesFwd.hpp>
+#include <xercesc/dom/DOMNode.hpp>
 
 namespace paxorel::xml::detail {
 
@@ -21,14 +21,22 @@ namespace paxorel::xml::detail {
 class WrappedText {
  public:
   /// Notes a wrapper made for `node` (may be null), reached from `from` by a
-  /// child or sibling link.
-  static void noteReached(const xercesc::DOMNode& from, xercesc::DOMNode* node);
+  /// child or sibling link. Inline: it is every navigation step's, and a step
+  /// from an element, the common one, asks one question.
+  static void noteReached(const xercesc::DOMNode& from, xercesc::DOMNode* node) {
+    const xercesc::DOMNode::NodeType type = from.getNodeType();
+    if (type == xercesc::DOMNode::ATTRIBUTE_NODE || type == xercesc::DOMNode::TEXT_NODE) noteLinked(from, node);
+  }
   /// Notes a wrapper made for `node` (may be null), reached from a list.
   static void noteListed(xercesc::DOMNode* node);
   /// Notes that the library has put nodes into `parent`.
   static void noteMovedInto(xercesc::DOMNode& parent);
   /// Whether `node` is a marked text node.
   static bool isMarked(const xercesc::DOMNode& node);
+
+ private:
+  /// noteReached from an attribute or a text node.
+  static void noteLinked(const xercesc::DOMNode& from, xercesc::DOMNode* node);
 };
 
 }  // namespace paxorel::xml::detail
