@@ -182,14 +182,14 @@ ustring Node::comparePositionInDocument(const Node* other) const {
 
 // --- navigation ---
 
-Node* Node::getFirstChild() const { return linked(impl()->getFirstChild()); }
-Node* Node::getLastChild() const { return linked(impl()->getLastChild()); }
-Node* Node::getNextSibling() const { return linked(impl()->getNextSibling()); }
-Node* Node::getPreviousSibling() const { return linked(impl()->getPreviousSibling()); }
+Node* Node::getFirstChild() const { return wrapChild(impl()->getFirstChild()); }
+Node* Node::getLastChild() const { return wrapChild(impl()->getLastChild()); }
+Node* Node::getNextSibling() const { return downcast(impl()->getNextSibling(), getOwnerDocWrapper()); }
+Node* Node::getPreviousSibling() const { return downcast(impl()->getPreviousSibling(), getOwnerDocWrapper()); }
 
-Node* Node::linked(DOMNode* node) const {
-  detail::WrappedText::noteReached(*impl_, node);
-  return downcast(node, getOwnerDocWrapper());
+Node* Node::wrapChild(DOMNode* child) const {
+  detail::WrappedText::noteChildrenOf(*impl_);
+  return downcast(child, getOwnerDocWrapper());
 }
 
 Node* Node::getParentNode() const {
@@ -199,7 +199,7 @@ Node* Node::getParentNode() const {
 
 Node* Node::item(double index) {
   if (!childList_) childList_ = impl()->getChildNodes();
-  return linked(childList_->item(conversionS(index)));
+  return wrapChild(childList_->item(conversionS(index)));
 }
 
 Node* Node::child(double index) { return item(index - 1.0); }
@@ -208,8 +208,9 @@ Node* Node::child(double index) { return item(index - 1.0); }
 // list's own item(i) and getLength walk the siblings from the first each time.
 std::vector<Node*> Node::getChildren() const {
   std::vector<std::unique_ptr<Node>> made;  // freed again should a later step fail
+  detail::WrappedText::noteChildrenOf(*impl());
   for (DOMNode* child = impl()->getFirstChild(); child; child = child->getNextSibling()) {
-    made.emplace_back(linked(child));
+    made.emplace_back(downcast(child, getOwnerDocWrapper()));
   }
   std::vector<Node*> result;
   result.reserve(made.size());
@@ -245,7 +246,7 @@ Node* Node::appendChild(Node* newChild) {
   try {
     refuseSelfChild(parent, child);
     parent->appendChild(child);
-    detail::WrappedText::noteMovedInto(*parent);
+    detail::WrappedText::noteChildrenOf(*parent);
     DocumentType::noteAdoption(*newChild);
     if (!newChild->getOwnerDocWrapper()) newChild->setOwnerDocWrapper(getOwnerDocument());
   } catch (const xercesc::DOMException& e) {
@@ -273,7 +274,7 @@ Node* Node::insertBefore(Node* newChild, Node* refChild) {
   if (child == parent) raiseXmlError(*this, xml_error::nodeInsertBeforeSelfError(newChild->getNodeName()));
   try {
     parent->insertBefore(child, reference);
-    detail::WrappedText::noteMovedInto(*parent);
+    detail::WrappedText::noteChildrenOf(*parent);
     DocumentType::noteAdoption(*newChild);
   } catch (const xercesc::DOMException& e) {
     const ustring name = newChild->getNodeName();
@@ -300,7 +301,7 @@ Node* Node::replaceChild(Node* newChild, Node* oldChild) {
   try {
     refuseSelfChild(parent, child);
     parent->replaceChild(child, old);
-    detail::WrappedText::noteMovedInto(*parent);
+    detail::WrappedText::noteChildrenOf(*parent);
     DocumentType::noteAdoption(*newChild);
   } catch (const xercesc::DOMException& e) {
     const ustring name = newChild->getNodeName();

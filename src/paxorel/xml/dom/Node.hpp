@@ -167,9 +167,8 @@ class Node : public XMLObject {
  private:
   friend class Document;  // renames nodes in place
 
-  /// A wrapper of `node` (may be null), which a child or sibling link of this
-  /// node gave.
-  Node* linked(xercesc::DOMNode* node) const;
+  /// A wrapper of `child` of this node (may be null).
+  Node* wrapChild(xercesc::DOMNode* child) const;
 
   xercesc::DOMNode* impl_;
   std::shared_ptr<Document> owner_;

@@ -29,7 +29,7 @@ double NodeList::getLength() const { return toDouble(list()->getLength()); }
 
 Node* NodeList::item(double index) const {
   xercesc::DOMNode* found = list()->item(conversionS(index));
-  detail::WrappedText::noteListed(found);
+  detail::WrappedText::noteSiblingsOf(found);
   return Node::downcast(found, getOwnerDocWrapper());
 }
 

@@ -14,9 +14,8 @@ Text::Text(DOMText* impl, std::shared_ptr<Document> owner) : CharacterData(impl,
 const char* Text::getFullyQualifiedVorloTypeName() const { return "zelmar.io.xml.dom.Text"; }
 
 Text* Text::splitText(double offset) {
-  DOMText* text = implAs<DOMText>();
-  DOMText* rest = text->splitText(conversionU(offset));
-  detail::WrappedText::noteReached(*text, rest);
+  DOMText* rest = implAs<DOMText>()->splitText(conversionU(offset));
+  detail::WrappedText::noteSiblingsOf(rest);
   return new Text(rest, getOwnerDocWrapper());
 }
 

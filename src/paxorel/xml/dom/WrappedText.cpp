@@ -1,7 +1,5 @@
 #include <paxorel/xml/dom/WrappedText.hpp>
 
-#include <xercesc/dom/DOMNode.hpp>
-
 namespace paxorel::xml::detail {
 
 using xercesc::DOMNode;
@@ -11,32 +9,20 @@ namespace {
 const XMLCh key[] = u"paxorel-xml:wrapped";
 
 bool isText(const DOMNode& node) { return node.getNodeType() == DOMNode::TEXT_NODE; }
-bool isAttribute(const DOMNode& node) { return node.getNodeType() == DOMNode::ATTRIBUTE_NODE; }
-
-void mark(DOMNode& node) {
-  static char marker;
-  node.setUserData(key, &marker, nullptr);
-}
 
 }  // namespace
 
-// From an attribute a link leads to its child; from a marked text node to a
-// sibling in the same attribute (or out of one that it has left).
-void WrappedText::noteLinked(const DOMNode& from, DOMNode* node) {
-  if (node && isText(*node) && (isAttribute(from) || isMarked(from))) mark(*node);
-}
-
-void WrappedText::noteListed(DOMNode* node) {
-  if (!node || !isText(*node)) return;
-  const DOMNode* parent = node->getParentNode();
-  if (parent && isAttribute(*parent)) mark(*node);
-}
-
-void WrappedText::noteMovedInto(DOMNode& parent) {
-  if (!isAttribute(parent)) return;
-  for (DOMNode* child = parent.getFirstChild(); child; child = child->getNextSibling()) {
-    if (isText(*child)) mark(*child);
+void WrappedText::markTextChildren(DOMNode& attribute) {
+  static char marker;
+  for (DOMNode* child = attribute.getFirstChild(); child; child = child->getNextSibling()) {
+    if (isText(*child)) child->setUserData(key, &marker, nullptr);
   }
+}
+
+// Only a text node's parent is asked for, which costs Xerces a good deal.
+void WrappedText::noteSiblingsOf(DOMNode* node) {
+  if (!node || !isText(*node)) return;
+  if (DOMNode* parent = node->getParentNode()) noteChildrenOf(*parent);
 }
 
 bool WrappedText::isMarked(const DOMNode& node) { return isText(node) && node.getUserData(key) != nullptr; }

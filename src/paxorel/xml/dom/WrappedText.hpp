@@ -13,30 +13,29 @@ namespace paxorel::xml::detail {
 /// changes costs no more memory than with Xerces alone.
 ///
 /// A wrapper of such a node comes from the attribute's child links or child
-/// list, from a sibling's links or split, or along with a node that the
-/// library moves into the attribute: each of these marks the text nodes it
-/// hands out. (Asking each new wrapper's node for its parent would cost every
-/// navigation a good part of its time.) The mark is DOM user data of the
-/// node, so it goes with its document; it stays after the wrapper has gone.
+/// list, from a split of one of them, from a sibling of one that was reached
+/// so, or along with a node that the library moves into the attribute. Each
+/// of these but the sibling marks every text child of the attribute; a
+/// sibling then is marked already, since nothing but these adds a child to an
+/// attribute while a marked one stays in it. (Asking each new wrapper's node
+/// for its parent would cost every navigation step a good part of its time.)
+/// The mark is DOM user data of the node, so it goes with its document; it
+/// stays after the wrapper has gone.
 class WrappedText {
  public:
-  /// Notes a wrapper made for `node` (may be null), reached from `from` by a
-  /// child or sibling link. Inline: it is every navigation step's, and a step
-  /// from an element, the common one, asks one question.
-  static void noteReached(const xercesc::DOMNode& from, xercesc::DOMNode* node) {
-    const xercesc::DOMNode::NodeType type = from.getNodeType();
-    if (type == xercesc::DOMNode::ATTRIBUTE_NODE || type == xercesc::DOMNode::TEXT_NODE) noteLinked(from, node);
+  /// Notes that wrappers may be made for children of `parent`. Inline: it is
+  /// every child link's, and asks a parent that is no attribute one question.
+  static void noteChildrenOf(xercesc::DOMNode& parent) {
+    if (parent.getNodeType() == xercesc::DOMNode::ATTRIBUTE_NODE) markTextChildren(parent);
   }
-  /// Notes a wrapper made for `node` (may be null), reached from a list.
-  static void noteListed(xercesc::DOMNode* node);
-  /// Notes that the library has put nodes into `parent`.
-  static void noteMovedInto(xercesc::DOMNode& parent);
+  /// Notes that a wrapper may be made for `node` (may be null), reached
+  /// otherwise than by a link from its parent: from a child list, a split.
+  static void noteSiblingsOf(xercesc::DOMNode* node);
   /// Whether `node` is a marked text node.
   static bool isMarked(const xercesc::DOMNode& node);
 
  private:
-  /// noteReached from an attribute or a text node.
-  static void noteLinked(const xercesc::DOMNode& from, xercesc::DOMNode* node);
+  static void markTextChildren(xercesc::DOMNode& attribute);
 };
 
 }  // namespace paxorel::xml::detail
