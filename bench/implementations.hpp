@@ -31,7 +31,21 @@ struct Implementation {
   /// sibling, returning what the walk counted: the work whose peak memory
   /// is measured.
   std::function<std::size_t(const std::string& path)> parseAndWalk;
+  /// Sets one attribute of a new document's root element the given number
+  /// of times, to a new value each time, and returns the length of the last
+  /// value read back: whether the old values' nodes are reused shows in the
+  /// peak memory. Empty where the implementation has no such DOM.
+  std::function<std::size_t(std::size_t calls)> setAttributeLoop;
 };
+
+/// How many setAttribute calls the memory row runs.
+inline constexpr std::size_t setAttributeCalls = 1'000'000;
+
+/// The value of the `call`th setAttribute: its decimal digits.
+inline ustring decimal(std::size_t call) {
+  const std::string digits = std::to_string(call);
+  return ustring(digits.begin(), digits.end());
+}
 
 /// Each starts its library, so that nothing measured later pays for that.
 Implementation paxorel();

@@ -113,6 +113,7 @@ Implementation libxml2() {
            })},
       },
       [](const std::string& path) { return walkAll(checked(xmlReadFile(path.c_str(), nullptr, options)).get()); },
+      {},
   };
 }
 

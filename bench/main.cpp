@@ -4,8 +4,9 @@
 // "task/implementation/input"; once all have run, one table sets each
 // implementation beside raw Xerces.
 //
-// `--memory=IMPLEMENTATION:FILE` is the hidden mode in which the suite
-// re-runs itself to measure one parse and walk in a fresh process.
+// `--memory=IMPLEMENTATION:FILE` and `--memory=IMPLEMENTATION:` are the
+// hidden modes in which the suite re-runs itself to measure, in a fresh
+// process, one parse and walk of FILE, or the setAttribute loop.
 #include "implementations.hpp"
 #include "table.hpp"
 
@@ -106,14 +107,14 @@ Projection project(const Prepare& prepare, const Input& input) {
   return {1, quickest(input)};
 }
 
-std::string nameOf(const std::string& task, const Implementation& implementation, const Input& input) {
-  return task + "/" + implementation.name + "/" + input.name();
+std::string nameOf(const std::string& task, const Implementation& implementation, const std::string& input) {
+  return task + "/" + implementation.name + "/" + input;
 }
 
 // Registers `body` by nameOf; an exception from it fails that benchmark with
 // its message rather than ending the run.
-benchmark::internal::Benchmark* add(const std::string& task, const Implementation& implementation, const Input& input,
-                                    std::function<void(benchmark::State&)> body) {
+benchmark::internal::Benchmark* add(const std::string& task, const Implementation& implementation,
+                                    const std::string& input, std::function<void(benchmark::State&)> body) {
   const auto guarded = [body = std::move(body)](benchmark::State& state) {
     try {
       body(state);
@@ -130,7 +131,7 @@ void addTimed(const Task& task, const Implementation& implementation, const Work
   if (found == implementation.tasks.end()) return;
   const Input& input = workload.input;
   // Mutable: the projection is made at the first repetition and kept.
-  const auto body = [prepare = found->second, &input, task, name = nameOf(task.name, implementation, input),
+  const auto body = [prepare = found->second, &input, task, name = nameOf(task.name, implementation, input.name()),
                      projected = std::optional<Projection>()](benchmark::State& state) mutable {
     if (task.quadratic) {
       if (!projected) {
@@ -149,12 +150,16 @@ void addTimed(const Task& task, const Implementation& implementation, const Work
     for (auto _ : state) benchmark::DoNotOptimize(work());
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(input.utf8().size()));
   };
-  auto* added = add(task.name, implementation, input, body);
+  auto* added = add(task.name, implementation, input.name(), body);
   if (workload.repetitions) added->Iterations(1)->Repetitions(workload.repetitions);
 }
 
+// The row of the memory task that shows the setAttribute loop.
+const char* const setAttributeRow = "setAttribute";
+
 // The peak resident memory, in kilobytes, that parsing and walking the file
-// at `path` adds to a fresh process of this program.
+// at `path` adds to a fresh process of this program; with no path, the
+// setAttribute loop.
 double peakKilobytes(const std::string& implementation, const std::string& path) {
   int pipe[2];
   if (::pipe(pipe) != 0) throw std::system_error(errno, std::generic_category(), "pipe");
@@ -181,14 +186,16 @@ double peakKilobytes(const std::string& implementation, const std::string& path)
   return std::stod(output);
 }
 
-void addMemory(const Implementation& implementation, const Workload& workload) {
-  const Input& input = workload.input;
-  const auto measure = [&implementation, &input](benchmark::State& state) {
+// A row of the memory task: parsing and walking `input`, or with none the
+// setAttribute loop. The input's file is made only when the row runs.
+void addMemory(const Implementation& implementation, const std::string& row, const Input* input) {
+  const auto measure = [&implementation, input](benchmark::State& state) {
+    const std::string path = input ? input->path() : std::string();
     double kilobytes = 0;
-    for (auto _ : state) kilobytes = peakKilobytes(implementation.name, input.path());
+    for (auto _ : state) kilobytes = peakKilobytes(implementation.name, path);
     state.counters["peak_KB"] = kilobytes;
   };
-  add(memoryTask, implementation, input, measure)->Iterations(1)->Repetitions(1);
+  add(memoryTask, implementation, row, measure)->Iterations(1)->Repetitions(1);
 }
 
 // The peak resident set of this process so far, in kilobytes. Not
@@ -203,14 +210,20 @@ long peakResidentKilobytes() {
   throw std::runtime_error("no VmHWM in /proc/self/status");
 }
 
-// The hidden mode: `request` is "IMPLEMENTATION:FILE". The libraries have
-// started before the first reading, so only the parse and walk count.
+// The hidden mode: `request` is "IMPLEMENTATION:FILE", or "IMPLEMENTATION:"
+// for the setAttribute loop. The libraries have started before the first
+// reading, so only the work counts.
 int measureMemory(const std::string& request) {
   const std::size_t colon = request.find(':');
+  const std::string path = request.substr(colon + 1);
   for (const Implementation& implementation : implementations()) {
     if (implementation.name != request.substr(0, colon)) continue;
+    // A first call of the loop pages in the code that it runs, which is
+    // not what the row is about: the growth with the number of calls.
+    if (path.empty()) implementation.setAttributeLoop(1);
     const long before = peakResidentKilobytes();
-    benchmark::DoNotOptimize(implementation.parseAndWalk(request.substr(colon + 1)));
+    benchmark::DoNotOptimize(path.empty() ? implementation.setAttributeLoop(setAttributeCalls)
+                                          : implementation.parseAndWalk(path));
     std::cout << peakResidentKilobytes() - before << '\n';
     return 0;
   }
@@ -242,8 +255,10 @@ class TableReporter : public benchmark::ConsoleReporter {
     taskNames.emplace_back(memoryTask);
     std::vector<std::string> inputNames;
     for (const Workload& workload : workloads()) inputNames.push_back(workload.input.name());
+    inputNames.emplace_back(setAttributeRow);
     GetOutputStream() << "\nMedians over the repetitions; memory is the peak resident growth of parseFile and a "
-                         "first-child/next-sibling walk in a fresh process.\n\n"
+                         "first-child/next-sibling walk in a fresh process, and of "
+                      << setAttributeCalls << " setAttribute calls on one attribute.\n\n"
                       << table_.render(taskNames, inputNames);
     ConsoleReporter::Finalize();
   }
@@ -268,7 +283,12 @@ int run(int argc, char** argv) {
     }
   }
   for (const Workload& workload : workloads()) {
-    for (const Implementation& implementation : implementations()) addMemory(implementation, workload);
+    for (const Implementation& implementation : implementations()) {
+      addMemory(implementation, workload.input.name(), &workload.input);
+    }
+  }
+  for (const Implementation& implementation : implementations()) {
+    if (implementation.setAttributeLoop) addMemory(implementation, setAttributeRow, nullptr);
   }
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

@@ -104,6 +104,12 @@ Implementation paxorel() {
            }},
       },
       [](const std::string& path) { return walk<Node&>(*parseFile(basis::text::from_utf8(path)), read, siblings); },
+      [](std::size_t calls) {
+        const std::shared_ptr<Document> document = createDocument(u"r");
+        const std::unique_ptr<Element> root(document->getDocumentElement());
+        for (std::size_t call = 0; call < calls; ++call) root->setAttribute(u"a", decimal(call));
+        return root->getAttribute(u"a").size();
+      },
   };
 }
 

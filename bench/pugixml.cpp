@@ -102,6 +102,7 @@ Implementation pugixml() {
         check(document.load_file(path.c_str(), options));
         return walkAll(document);
       },
+      {},
   };
 }
 

@@ -18,6 +18,7 @@ TEST(Twins, CountWhatPaxorelCounts) {
     }
     EXPECT_EQ(raw.parseAndWalk(input.path()), library.parseAndWalk(input.path())) << input.name();
   }
+  EXPECT_EQ(raw.setAttributeLoop(1000), library.setAttributeLoop(1000));
 }
 
 // The three ways through the children reach the same nodes.

@@ -171,6 +171,13 @@ Implementation xerces() {
         const Owned<DOMDocument> document(parser()->parseURI(basis::text::from_utf8(path).c_str()));
         return walk<const DOMNode*>(document.get(), read, siblings);
       },
+      [](std::size_t calls) {
+        const Owned<DOMDocument> document(
+            lsImplementation()->createDocument(nullptr, u"r", nullptr, XMLPlatformUtils::fgMemoryManager));
+        DOMElement* root = document->getDocumentElement();
+        for (std::size_t call = 0; call < calls; ++call) root->setAttribute(u"a", decimal(call).c_str());
+        return ustring(root->getAttribute(u"a")).size();
+      },
   };
 }
 

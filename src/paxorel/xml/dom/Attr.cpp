@@ -2,6 +2,7 @@
 
 #include <paxorel/xml/core/XercesString.hpp>
 #include <paxorel/xml/dom/Element.hpp>
+#include <paxorel/xml/dom/ReleaseGuard.hpp>
 #include <paxorel/xml/dom/TypeInfo.hpp>
 
 #include <xercesc/dom/DOMAttr.hpp>
@@ -20,7 +21,7 @@ ustring Attr::getName() const { return XercesString::toUstring(implAs<DOMAttr>()
 
 ustring Attr::getValue() const { return XercesString::toUstring(implAs<DOMAttr>()->getValue()); }
 
-void Attr::setValue(const ustring& value) { implAs<DOMAttr>()->setValue(XercesString(value)); }
+void Attr::setValue(const ustring& value) { detail::ReleaseGuard::setValue(*implAs<DOMAttr>(), XercesString(value)); }
 
 bool Attr::getSpecified() const { return implAs<DOMAttr>()->getSpecified(); }
 

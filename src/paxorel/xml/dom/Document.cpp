@@ -15,6 +15,7 @@
 #include <paxorel/xml/dom/NodeList.hpp>
 #include <paxorel/xml/dom/Notation.hpp>
 #include <paxorel/xml/dom/ProcessingInstruction.hpp>
+#include <paxorel/xml/dom/ReleaseGuard.hpp>
 #include <paxorel/xml/dom/Text.hpp>
 #include <paxorel/xml/serialize/DOMWriter.hpp>
 #include <paxorel/xml/xpath/XPathNSResolver.hpp>
@@ -467,7 +468,7 @@ void Document::normalizeDocument() {
   ErrorCollector collector;
   try {
     const CollectorScope scope(document->getDOMConfig(), collector);
-    document->normalizeDocument();
+    detail::ReleaseGuard::normalizeDocument(*document);
   } catch (...) {
     if (collector.failed) raiseXmlError(*this, xml_error::normalizeDocumentError(collector.message));
     raiseXmlError(*this, xml_error::normalizeDocumentUnknownError());

@@ -4,7 +4,9 @@
 #include <paxorel/xml/core/XercesString.hpp>
 #include <paxorel/xml/core/raiseXmlError.hpp>
 #include <paxorel/xml/dom/Attr.hpp>
+#include <paxorel/xml/dom/DocumentOrder.hpp>
 #include <paxorel/xml/dom/NodeList.hpp>
+#include <paxorel/xml/dom/ReleaseGuard.hpp>
 #include <paxorel/xml/dom/TypeInfo.hpp>
 
 #include <xercesc/dom/DOM.hpp>
@@ -22,15 +24,6 @@ namespace {
 
 // The attribute of an Attr argument of an operation of `self`.
 DOMAttr* attrOf(const Element& self, const Attr* attr) { return static_cast<DOMAttr*>(Node::implOf(self, attr)); }
-
-// The node after `node` in document order, within the tree of `root`.
-const DOMNode* nextInDocument(const DOMNode* node, const DOMNode* root) {
-  if (const DOMNode* child = node->getFirstChild()) return child;
-  for (; node != root; node = node->getParentNode()) {
-    if (const DOMNode* sibling = node->getNextSibling()) return sibling;
-  }
-  return nullptr;
-}
 
 // Whether `node` lies inside an entity or an entity reference, the places
 // where the DOM makes elements read-only.
@@ -129,13 +122,13 @@ Element* Element::getNextElementSibling() const {
 double Element::getChildElementCount() const { return toDouble(implAs<DOMElement>()->getChildElementCount()); }
 
 double Element::getNodeIndex() const {
-  // Iterative rather than recursive, so that a deep document cannot exhaust
-  // the stack; attribute nodes are counted but never entered, so their text
-  // children stay out of the count.
+  // Attribute nodes are counted but never entered, so their text children
+  // stay out of the count.
   const DOMElement* self = implAs<DOMElement>();
   const DOMNode* document = self->getOwnerDocument();
   std::int32_t index = 0;
-  for (const DOMNode* node = document->getFirstChild(); node; node = nextInDocument(node, document)) {
+  for (const DOMNode* node = document->getFirstChild(); node;
+       node = detail::nextInDocument(node, document, detail::References::entered)) {
     ++index;
     if (node == self) break;
     if (node->getNodeType() == DOMNode::ELEMENT_NODE) {
@@ -149,7 +142,7 @@ double Element::getNodeIndex() const {
 
 void Element::setAttribute(const ustring& name, const ustring& value) {
   try {
-    implAs<DOMElement>()->setAttribute(XercesString(name), XercesString(value));
+    detail::ReleaseGuard::setAttribute(*implAs<DOMElement>(), XercesString(name), XercesString(value));
   } catch (const DOMException& e) {
     const ustring tag = getTagName();
     switch (e.code) {
@@ -163,7 +156,8 @@ void Element::setAttribute(const ustring& name, const ustring& value) {
 
 void Element::setAttributeNS(const ustring& namespaceURI, const ustring& qualifiedName, const ustring& value) {
   try {
-    implAs<DOMElement>()->setAttributeNS(XercesString(namespaceURI), XercesString(qualifiedName), XercesString(value));
+    detail::ReleaseGuard::setAttributeNS(*implAs<DOMElement>(), XercesString(namespaceURI), XercesString(qualifiedName),
+                                         XercesString(value));
   } catch (const DOMException& e) {
     const ustring tag = getTagName();
     switch (e.code) {
@@ -226,7 +220,7 @@ Attr* Element::removeAttributeNode(Attr* attr) {
 
 void Element::removeAttribute(const ustring& name) {
   try {
-    implAs<DOMElement>()->removeAttribute(XercesString(name));
+    detail::ReleaseGuard::removeAttribute(*implAs<DOMElement>(), XercesString(name));
   } catch (const DOMException& e) {
     if (e.code == DOMException::NO_MODIFICATION_ALLOWED_ERR) {
       raiseXmlError(*this, xml_error::elemRemoveAttrError(name, getTagName()));
@@ -236,7 +230,7 @@ void Element::removeAttribute(const ustring& name) {
 
 void Element::removeAttributeNS(const ustring& namespaceURI, const ustring& localName) {
   try {
-    implAs<DOMElement>()->removeAttributeNS(XercesString(namespaceURI), XercesString(localName));
+    detail::ReleaseGuard::removeAttributeNS(*implAs<DOMElement>(), XercesString(namespaceURI), XercesString(localName));
   } catch (const DOMException& e) {
     if (e.code == DOMException::NO_MODIFICATION_ALLOWED_ERR) {
       raiseXmlError(*this, xml_error::elemRemoveAttrError(localName, getTagName()));

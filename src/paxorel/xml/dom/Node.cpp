@@ -17,7 +17,9 @@
 #include <paxorel/xml/dom/NodeList.hpp>
 #include <paxorel/xml/dom/Notation.hpp>
 #include <paxorel/xml/dom/ProcessingInstruction.hpp>
+#include <paxorel/xml/dom/ReleaseGuard.hpp>
 #include <paxorel/xml/dom/Text.hpp>
+#include <paxorel/xml/dom/WrappedText.hpp>
 
 #include <xercesc/dom/DOM.hpp>
 
@@ -180,10 +182,15 @@ ustring Node::comparePositionInDocument(const Node* other) const {
 
 // --- navigation ---
 
-Node* Node::getFirstChild() const { return downcast(impl()->getFirstChild(), getOwnerDocWrapper()); }
-Node* Node::getLastChild() const { return downcast(impl()->getLastChild(), getOwnerDocWrapper()); }
+Node* Node::getFirstChild() const { return wrapChild(impl()->getFirstChild()); }
+Node* Node::getLastChild() const { return wrapChild(impl()->getLastChild()); }
 Node* Node::getNextSibling() const { return downcast(impl()->getNextSibling(), getOwnerDocWrapper()); }
 Node* Node::getPreviousSibling() const { return downcast(impl()->getPreviousSibling(), getOwnerDocWrapper()); }
+
+Node* Node::wrapChild(DOMNode* child) const {
+  detail::WrappedText::noteChildrenOf(*impl_);
+  return downcast(child, getOwnerDocWrapper());
+}
 
 Node* Node::getParentNode() const {
   if (impl()->getNodeType() == DOMNode::DOCUMENT_NODE) return nullptr;
@@ -192,7 +199,7 @@ Node* Node::getParentNode() const {
 
 Node* Node::item(double index) {
   if (!childList_) childList_ = impl()->getChildNodes();
-  return downcast(childList_->item(conversionS(index)), getOwnerDocWrapper());
+  return wrapChild(childList_->item(conversionS(index)));
 }
 
 Node* Node::child(double index) { return item(index - 1.0); }
@@ -201,6 +208,7 @@ Node* Node::child(double index) { return item(index - 1.0); }
 // list's own item(i) and getLength walk the siblings from the first each time.
 std::vector<Node*> Node::getChildren() const {
   std::vector<std::unique_ptr<Node>> made;  // freed again should a later step fail
+  detail::WrappedText::noteChildrenOf(*impl());
   for (DOMNode* child = impl()->getFirstChild(); child; child = child->getNextSibling()) {
     made.emplace_back(downcast(child, getOwnerDocWrapper()));
   }
@@ -238,6 +246,7 @@ Node* Node::appendChild(Node* newChild) {
   try {
     refuseSelfChild(parent, child);
     parent->appendChild(child);
+    detail::WrappedText::noteChildrenOf(*parent);
     DocumentType::noteAdoption(*newChild);
     if (!newChild->getOwnerDocWrapper()) newChild->setOwnerDocWrapper(getOwnerDocument());
   } catch (const xercesc::DOMException& e) {
@@ -265,6 +274,7 @@ Node* Node::insertBefore(Node* newChild, Node* refChild) {
   if (child == parent) raiseXmlError(*this, xml_error::nodeInsertBeforeSelfError(newChild->getNodeName()));
   try {
     parent->insertBefore(child, reference);
+    detail::WrappedText::noteChildrenOf(*parent);
     DocumentType::noteAdoption(*newChild);
   } catch (const xercesc::DOMException& e) {
     const ustring name = newChild->getNodeName();
@@ -291,6 +301,7 @@ Node* Node::replaceChild(Node* newChild, Node* oldChild) {
   try {
     refuseSelfChild(parent, child);
     parent->replaceChild(child, old);
+    detail::WrappedText::noteChildrenOf(*parent);
     DocumentType::noteAdoption(*newChild);
   } catch (const xercesc::DOMException& e) {
     const ustring name = newChild->getNodeName();
@@ -359,12 +370,12 @@ void Node::setPrefix(const ustring& prefix) {
 
 void Node::setTextContent(const ustring& text) {
   try {
-    impl()->setTextContent(XercesString(text));
+    detail::ReleaseGuard::setTextContent(*impl(), XercesString(text));
   } catch (const xercesc::DOMException&) {
     raiseXmlError(*this, xml_error::nodeSetTextContentNoModError(text));
   }
 }
 
-void Node::setNodeValue(const ustring& value) { impl()->setNodeValue(XercesString(value)); }
+void Node::setNodeValue(const ustring& value) { detail::ReleaseGuard::setNodeValue(*impl(), XercesString(value)); }
 
 }  // namespace paxorel::xml

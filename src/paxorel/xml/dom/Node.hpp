@@ -167,6 +167,9 @@ class Node : public XMLObject {
  private:
   friend class Document;  // renames nodes in place
 
+  /// A wrapper of `child` of this node (may be null).
+  Node* wrapChild(xercesc::DOMNode* child) const;
+
   xercesc::DOMNode* impl_;
   std::shared_ptr<Document> owner_;
   xercesc::DOMNodeList* childList_ = nullptr;  // the live child list, fetched once

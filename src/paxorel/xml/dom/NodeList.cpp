@@ -4,6 +4,7 @@
 #include <paxorel/xml/core/XercesString.hpp>
 #include <paxorel/xml/core/raiseXmlError.hpp>
 #include <paxorel/xml/dom/Node.hpp>
+#include <paxorel/xml/dom/WrappedText.hpp>
 
 #include <xercesc/dom/DOMNode.hpp>
 #include <xercesc/dom/DOMNodeList.hpp>
@@ -27,7 +28,9 @@ xercesc::DOMNodeList* NodeList::list() const {
 double NodeList::getLength() const { return toDouble(list()->getLength()); }
 
 Node* NodeList::item(double index) const {
-  return Node::downcast(list()->item(conversionS(index)), getOwnerDocWrapper());
+  xercesc::DOMNode* found = list()->item(conversionS(index));
+  detail::WrappedText::noteSiblingsOf(found);
+  return Node::downcast(found, getOwnerDocWrapper());
 }
 
 Node* NodeList::node(double index) const { return item(index - 1.0); }

@@ -1,6 +1,7 @@
 #include <paxorel/xml/dom/Text.hpp>
 
 #include <paxorel/xml/core/Conversions.hpp>
+#include <paxorel/xml/dom/WrappedText.hpp>
 
 #include <xercesc/dom/DOMText.hpp>
 
@@ -14,6 +15,7 @@ const char* Text::getFullyQualifiedVorloTypeName() const { return "zelmar.io.xml
 
 Text* Text::splitText(double offset) {
   DOMText* rest = implAs<DOMText>()->splitText(conversionU(offset));
+  detail::WrappedText::noteSiblingsOf(rest);
   return new Text(rest, getOwnerDocWrapper());
 }
 
