@@ -84,8 +84,8 @@ void InternedName::setClass(VORClass* cls) const noexcept {
 const TypeSpec& InternedName::typeSpec() const {
   static const TypeSpec voidType{TypeSpec::Void, {}};
   if (!entry_) return voidType;
-  if (!entry_->spec) entry_->spec = std::make_unique<const TypeSpec>(parseTypeString(entry_->text));
-  return *entry_->spec;
+  if (!entry_->typeSpec) entry_->typeSpec = std::make_unique<const TypeSpec>(parseTypeString(entry_->text));
+  return *entry_->typeSpec;
 }
 
 }  // namespace vorlo

@@ -132,7 +132,7 @@ PyObject* instanceNew(PyTypeObject* type, PyObject* arguments, PyObject* keyword
 
 // Runs the destruction hook of a Python object whose last reference has
 // gone, and frees it. Its class is let go by subtype_dealloc, the deallocator
-// of every class made from a spec, which called this one.
+// of every class PyType_FromSpecWithBases makes, which called this one.
 void endInstance(PyObject* object) {
   auto* instance = reinterpret_cast<Instance*>(object);
   PyObject* type = nullptr;
@@ -222,9 +222,9 @@ void makeHandleClass(ClassEntry& entry) {
     }
     const std::string doc = classDoc(cls, entry.constructors);
     PyType_Slot slots[] = {{Py_tp_doc, const_cast<char*>(doc.c_str())}, {0, nullptr}};
-    PyType_Spec spec = {cls.getInternedFullName().c_str(), 0, 0, Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE, slots};
+    PyType_Spec layout = {cls.getInternedFullName().c_str(), 0, 0, Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE, slots};
     PyObject* tuple = check(PyList_AsTuple(bases));
-    type = PyType_FromSpecWithBases(&spec, tuple);
+    type = PyType_FromSpecWithBases(&layout, tuple);
     Py_DECREF(tuple);
     check(type);
     // Made as instances of type, these classes are of zelmar.Class, which

@@ -185,8 +185,8 @@ PyObject* check(PyObject* result) {
 }
 
 ValueType ValueType::of(vorlo::InternedName typeString) {
-  const vorlo::TypeSpec& spec = typeString.typeSpec();
-  switch (spec.kind) {
+  const vorlo::TypeSpec& parsed = typeString.typeSpec();
+  switch (parsed.kind) {
     case vorlo::TypeSpec::Void: return {Void, {}};
     case vorlo::TypeSpec::Text: return {Text, {}};
     case vorlo::TypeSpec::TextPointer: return {TextPointer, {}};
@@ -195,12 +195,12 @@ ValueType ValueType::of(vorlo::InternedName typeString) {
     case vorlo::TypeSpec::UInt64: return {UInt64, {}};
     case vorlo::TypeSpec::UInt32: return {UInt32, {}};
     case vorlo::TypeSpec::Any: return {Any, {}};
-    case vorlo::TypeSpec::ObjectVector: return {ObjectVector, spec.className};
+    case vorlo::TypeSpec::ObjectVector: return {ObjectVector, parsed.className};
     case vorlo::TypeSpec::Object:
     case vorlo::TypeSpec::Self: break;
   }
-  const vorlo::VORClass* cls = spec.className.getClass();
-  return {cls && cls->getInfo().isEnumeration() ? Enumeration : Object, spec.className};
+  const vorlo::VORClass* cls = parsed.className.getClass();
+  return {cls && cls->getInfo().isEnumeration() ? Enumeration : Object, parsed.className};
 }
 
 bool ValueType::accepts(PyObject* value) const noexcept {

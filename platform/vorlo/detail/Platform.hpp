@@ -20,7 +20,7 @@ struct InternedEntry {
   explicit InternedEntry(std::string name) : text(std::move(name)) {}
   const std::string text;
   mutable VORClass* cls = nullptr;                // set by VORClass while registered
-  mutable std::unique_ptr<const TypeSpec> spec;  // parsed on first use
+  mutable std::unique_ptr<const TypeSpec> typeSpec;  // parsed on first use
 };
 
 }  // namespace internal
