@@ -1,23 +1,11 @@
 #include <host/hostArrays.hpp>
 
 #include <ZELMAR/vorlo/errors.hpp>
+#include <basis/memory/checkers.hpp>
 #include <host/hostRaiseError.hpp>
 #include <vorlo/VORClass.hpp>
 
 #include <string>
-
-#if defined(__SANITIZE_ADDRESS__)
-#define HOST_ARRAYS_UNDER_ASAN 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define HOST_ARRAYS_UNDER_ASAN 1
-#endif
-#endif
-#if __has_include(<valgrind/valgrind.h>)
-#include <valgrind/valgrind.h>
-#else
-#define RUNNING_ON_VALGRIND 0
-#endif
 
 namespace {
 
@@ -38,11 +26,7 @@ KeptArrays kept;
 
 const struct KeptArraysLifetime {
   KeptArraysLifetime() {
-#ifdef HOST_ARRAYS_UNDER_ASAN
-    kept.closed = true;
-#else
-    kept.closed = RUNNING_ON_VALGRIND != 0;
-#endif
+    kept.closed = basis::memory::underAddressSanitizer() || basis::memory::underValgrind();
   }
   KeptArraysLifetime(const KeptArraysLifetime&) = delete;
   KeptArraysLifetime& operator=(const KeptArraysLifetime&) = delete;

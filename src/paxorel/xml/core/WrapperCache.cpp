@@ -1,23 +1,8 @@
 #include <paxorel/xml/core/WrapperCache.hpp>
 
-#include <new>
+#include <basis/memory/checkers.hpp>
 
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/asan_interface.h>
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#include <sanitizer/asan_interface.h>
-#endif
-#endif
-#if __has_include(<valgrind/valgrind.h>)
-#include <valgrind/valgrind.h>
-#else
-#define RUNNING_ON_VALGRIND 0
-#endif
-#ifndef ASAN_POISON_MEMORY_REGION
-#define ASAN_POISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
-#define ASAN_UNPOISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
-#endif
+#include <new>
 
 namespace paxorel::xml::detail {
 
@@ -48,7 +33,7 @@ void*& next(void* block, std::size_t index) {
 // own; and hands the kept blocks back to the heap at exit, so that a leak
 // check sees nothing of them.
 const struct CacheLifetime {
-  CacheLifetime() { lists.closed = RUNNING_ON_VALGRIND != 0; }
+  CacheLifetime() { lists.closed = basis::memory::underValgrind(); }
   CacheLifetime(const CacheLifetime&) = delete;
   CacheLifetime& operator=(const CacheLifetime&) = delete;
   ~CacheLifetime() {
