@@ -1,15 +1,16 @@
 // A small package of the class-object system, made for the tests of the
-// Python host: shapes on canvases, registered through the platform's records
-// directly, with every kind of record and value that a package can have.
+// platform (through the C++ host) and of the Python host: shapes on canvases,
+// registered through the platform's records directly, with every kind of
+// record and value that a package can have.
 //
-//   Item      handle, the base; 0x102 constructor; Live/Ended counters
+//   Item      handle, the base; 0x102 constructor; live/ended counters
 //   Shape     handle on Item and the unregistered zelmar.testing.mixin.Tagged:
 //             overloads, an enumeration, a direct method, a hidden method,
 //             read-only, settable, hidden and typed properties
-//   Circle    handle on Shape with public constructors
+//   Circle    handle on Shape with public constructors and its own getArea
 //   Square    handle on Shape with a 0x102 constructor only
-//   Canvas    handle on Item: object, vector and "any" results, statics,
-//             errors, calls back into Python
+//   Canvas    handle on Item: object, vector and "any" results, statics (the
+//             value conversions among them), errors, calls back into the host
 //   Painter   abstract: paint(Shape) -> logical, title() -> string*
 //   Color     enumeration over uint32: Red 0, Green 1, Blue 255
 
@@ -246,7 +247,7 @@ void initializeShape(vorlo::VORClass* cls) {
   const char* self_ = "zelmar.testing.Shape";
   method(cls, "getArea", 0, {"double scalar", self_}, [](int&, VORValue* out, const VORValue* in) {
     const ShapeData& data = *self<Shape>(in[0]).data;
-    out[0] = VORValue::ofDouble(data.round ? M_PI * data.width * data.width / 4 : data.width * data.height);
+    out[0] = VORValue::ofDouble(data.width * data.height);
   });
   // Overloads: by count, and by type at the same count.
   method(cls, "scale", 0, {"void", self_, "double scalar"}, [](int&, VORValue*, const VORValue* in) {
@@ -313,18 +314,21 @@ void initializeShape(vorlo::VORClass* cls) {
                                                                  &Shape::serial, &Shape::setSerial));
 }
 
+void newCircle(double diameter, VORValue* out) {
+  auto data = std::make_shared<ShapeData>();
+  data->round = true;
+  data->width = data->height = diameter;
+  bindNew(new Shape(data), out);
+}
+
 void initializeCircle(vorlo::VORClass* cls) {
   cls->addSuperclass(makeInterned("zelmar.testing.Shape"), 1, 0, 1);
-  constructor(cls, 0, {"zelmar.testing.Circle", nullptr}, [](int&, VORValue* out, const VORValue*) {
-    auto data = std::make_shared<ShapeData>();
-    data->round = true;
-    bindNew(new Shape(data), out);
-  });
-  constructor(cls, 0, {"zelmar.testing.Circle", nullptr, "double scalar"}, [](int&, VORValue* out, const VORValue* in) {
-    auto data = std::make_shared<ShapeData>();
-    data->round = true;
-    data->width = data->height = in[1].real();
-    bindNew(new Shape(data), out);
+  constructor(cls, 0, {"zelmar.testing.Circle", nullptr}, [](int&, VORValue* out, const VORValue*) { newCircle(1, out); });
+  constructor(cls, 0, {"zelmar.testing.Circle", nullptr, "double scalar"},
+              [](int&, VORValue* out, const VORValue* in) { newCircle(in[1].real(), out); });
+  method(cls, "getArea", 0, {"double scalar", "zelmar.testing.Circle"}, [](int&, VORValue* out, const VORValue* in) {
+    const double diameter = self<Shape>(in[0]).data->width;
+    out[0] = VORValue::ofDouble(M_PI * diameter * diameter / 4);
   });
 }
 
@@ -397,33 +401,21 @@ void initializeCanvas(vorlo::VORClass* cls) {
            self<Canvas>(in[0]).title = value;  // kept whole, zero units included
            out[0] = text(value);
          });
-  method(cls, "length", 0, {"double scalar", self_, "ustringToString scalar"}, [](int&, VORValue* out, const VORValue* in) {
-    self<Canvas>(in[0]);
+  method(cls, "length", 0, {"double scalar", nullptr, "ustringToString scalar"}, [](int&, VORValue* out, const VORValue* in) {
     out[0] = VORValue::ofDouble(in[1].text() ? static_cast<double>(in[1].text()->size()) : -1);
   });
-  method(cls, "join", 0, {"VorloFactoryString scalar", self_, "ustringToString scalar", "ustringToString scalar"},
-         [](int&, VORValue* out, const VORValue* in) {
-           self<Canvas>(in[0]);
-           out[0] = text(*in[1].text() + u"+" + *in[2].text());
-         });
-  method(cls, "next", 0, {"uint64 scalar", self_, "uint64 scalar"}, [](int&, VORValue* out, const VORValue* in) {
-    self<Canvas>(in[0]);
-    out[0] = VORValue::ofWord(in[1].word() + 1);
-  });
-  method(cls, "wrap", 0, {"uint32", self_, "uint32"}, [](int&, VORValue* out, const VORValue* in) {
-    self<Canvas>(in[0]);
-    out[0] = VORValue::ofArray(new HostArray(*in[1].array()));
-  });
-  method(cls, "half", 0, {"double scalar", self_, "double scalar"}, [](int&, VORValue* out, const VORValue* in) {
-    self<Canvas>(in[0]);
-    out[0] = VORValue::ofDouble(in[1].real() / 2);
-  });
-  method(cls, "fail", 0, {"void", self_, "VorloFactoryString scalar", "double scalar"}, [](int&, VORValue*, const VORValue* in) {
-    self<Canvas>(in[0]);
+  method(cls, "join", 0, {"VorloFactoryString scalar", nullptr, "ustringToString scalar", "ustringToString scalar"},
+         [](int&, VORValue* out, const VORValue* in) { out[0] = text(*in[1].text() + u"+" + *in[2].text()); });
+  method(cls, "next", 0, {"uint64 scalar", nullptr, "uint64 scalar"},
+         [](int&, VORValue* out, const VORValue* in) { out[0] = VORValue::ofWord(in[1].word() + 1); });
+  method(cls, "wrap", 0, {"uint32", nullptr, "uint32"},
+         [](int&, VORValue* out, const VORValue* in) { out[0] = VORValue::ofArray(new HostArray(*in[1].array())); });
+  method(cls, "half", 0, {"double scalar", nullptr, "double scalar"},
+         [](int&, VORValue* out, const VORValue* in) { out[0] = VORValue::ofDouble(in[1].real() / 2); });
+  method(cls, "fail", 0, {"void", nullptr, "VorloFactoryString scalar", "double scalar"}, [](int&, VORValue*, const VORValue* in) {
     hostRaise(Failure(vorlo::factory::extractString(in[1].array()), static_cast<std::int64_t>(in[2].real())));
   });
-  method(cls, "crash", 0, {"void", self_, "VorloFactoryString scalar"}, [](int&, VORValue*, const VORValue* in) {
-    self<Canvas>(in[0]);
+  method(cls, "crash", 0, {"void", nullptr, "VorloFactoryString scalar"}, [](int&, VORValue*, const VORValue* in) {
     const basis::ustring what = vorlo::factory::extractString(in[1].array());
     throw std::out_of_range(std::string(what.begin(), what.end()));
   });
