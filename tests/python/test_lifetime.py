@@ -28,26 +28,18 @@ def test_one_wrapper_is_one_python_object_while_announced(t, canvas):
     assert canvas.first().getArea() == area
 
 
-def test_the_destruction_hook_runs_when_the_python_object_goes(t):
-    live, ended = t.Item.live(), t.Item.ended()
-    circle = t.Circle()
-    gone = weakref.ref(circle)
-    assert t.Item.live() == live + 1
-    del circle
-    assert gone() is None
-    assert (t.Item.live(), t.Item.ended()) == (live, ended + 1)
-
-
-def test_objects_held_by_the_native_side_stay_alive(t):
-    canvas = t.Canvas()
-    circle = t.Circle()
-    canvas.keep([circle])
-    gone = weakref.ref(circle)
+def test_the_destruction_hook_runs_when_the_last_holder_lets_go(t):
+    canvas, circle = t.Canvas(), t.Circle()
+    gc.collect()  # nothing of other tests ends meanwhile
+    live, ended, gone = t.Item.live(), t.Item.ended(), weakref.ref(circle)
+    canvas.keep([circle])  # the native side holds it too
     del circle
     gc.collect()
     assert gone() is not None and canvas.kept() is gone()  # a 1-by-1 array: the object
+    assert t.Item.ended() == ended
     canvas.keep(None)
     assert gone() is None
+    assert (t.Item.live(), t.Item.ended()) == (live - 1, ended + 1)
 
 
 def test_objects_whose_native_side_went_fail_with_an_error_not_a_crash(t):
@@ -81,20 +73,6 @@ def test_python_subclasses_of_concrete_classes_keep_their_class(t):
     assert type(canvas.first()) is t.Circle  # a wrapper of its own: of the class it reports
     with pytest.raises(AttributeError):
         t.Circle().Areaa = 1  # objects of platform classes take no new attributes: a typo is an error
-
-
-def run(script):
-    """Runs `script` in a new interpreter with the test package loaded."""
-    prelude = f"""
-        import sys; sys.path.insert(0, {os.path.dirname(__file__)!r})
-        import conftest; t = conftest.load_test_package()
-    """
-    return subprocess.run(
-        [sys.executable, "-c", textwrap.dedent(prelude) + textwrap.dedent(script)],
-        capture_output=True,
-        text=True,
-        timeout=60,
-    )
 
 
 @pytest.mark.parametrize(
@@ -131,6 +109,9 @@ def run(script):
     ],
 )
 def test_interpreter_exit_with_objects_alive(script):
-    result = run(script)
+    here = os.path.dirname(__file__)
+    prelude = f"import sys; sys.path.insert(0, {here!r})\nimport conftest; t = conftest.load_test_package()"
+    command = [sys.executable, "-c", prelude + textwrap.dedent(script)]
+    result = subprocess.run(command, capture_output=True, text=True, timeout=60)
     assert (result.returncode, result.stdout.strip()) == (0, "alive"), result.stderr
     assert "Error" not in result.stderr and "Fatal" not in result.stderr, result.stderr
