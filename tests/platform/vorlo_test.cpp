@@ -11,7 +11,6 @@
 #include <vorlo/VORPackage.hpp>
 #include <vorlo/dispatch.hpp>
 #include <vorlo/factory/VorloFactoryClassInfo.hpp>
-#include <vorlo/factory/VorloMethod.hpp>
 #include <vorlo/factory/basic/BindingRegistry.hpp>
 #include <vorlo/factory/downcast.hpp>
 
@@ -20,7 +19,6 @@
 #include <cmath>
 #include <limits>
 #include <memory>
-#include <set>
 #include <vector>
 
 extern "C" void ModuleInitialize_zelmar_testpackage();
@@ -103,12 +101,12 @@ TEST(InternedName, EqualTextsAreOneNameAndTypeStringsAreParsedOnce) {
   } cases[] = {
       {"void", TypeSpec::Void, ""},
       {"any", TypeSpec::Any, ""},
+      {"uint32", TypeSpec::UInt32, ""},
       {"VorloFactoryString scalar", TypeSpec::Text, ""},
       {"ustringToString scalar", TypeSpec::TextPointer, ""},
       {"logical scalar", TypeSpec::Logical, ""},
       {"double scalar", TypeSpec::Double, ""},
       {"uint64 scalar", TypeSpec::UInt64, ""},
-      {"uint32", TypeSpec::UInt32, ""},
       {"a.b.Node", TypeSpec::Object, "a.b.Node"},
       {"a.b.Node vector", TypeSpec::ObjectVector, "a.b.Node"},
       {"a.b.Node scalar", TypeSpec::Self, "a.b.Node"},
@@ -142,7 +140,7 @@ TEST(Downcast, AnswersAsDynamicCastDoesForEveryClassSeenAgain) {
   }
 }
 
-TEST_F(TestPackage, APackageRunsItsCallbackOnceAndKeepsItsClassesInOrder) {
+TEST_F(TestPackage, APackageRunsItsCallbackOnceAndKeepsItsClassesInOrderWithTheirBases) {
   int runs = 0;
   EXPECT_TRUE(factory::registerVorloPackage("test.once", [&runs](VORPackage*) { ++runs; }));
   EXPECT_FALSE(factory::registerVorloPackage("test.once", [&runs](VORPackage*) { runs += 10; }));
@@ -153,7 +151,6 @@ TEST_F(TestPackage, APackageRunsItsCallbackOnceAndKeepsItsClassesInOrder) {
   std::vector<std::string> names;
   for (const VORClass* c : VORPackage::find("zelmar.testing")->getClasses()) names.push_back(c->getShortName());
   EXPECT_EQ(names, (std::vector<std::string>{"Painter", "Circle", "Canvas", "Color", "Shape", "Square", "Item"}));
-  EXPECT_EQ(cls("Circle").getInternedFullName(), name("zelmar.testing.Circle"));
   EXPECT_EQ(VORClass::getClass("zelmar.testing.Nothing"), nullptr);
   std::vector<std::string> packages;
   for (const VORPackage* package : VORPackage::all()) packages.push_back(package->getName());
@@ -166,24 +163,12 @@ TEST_F(TestPackage, APackageRunsItsCallbackOnceAndKeepsItsClassesInOrder) {
     package->addClass(new EmptyClass("Thing", ""), 2);
   });
   EXPECT_EQ(raised([] { VORPackage::find("test.twice")->getClasses(); }), "ZELMAR:vorlo:ClassExists");
-}
 
-TEST_F(TestPackage, ClassesKnowTheirBasesAbstractnessAndStaticRecords) {
   EXPECT_TRUE(cls("Circle").isA(name("zelmar.testing.Item")));
   EXPECT_TRUE(cls("Circle").isA(name("zelmar.testing.mixin.Tagged"))) << "a base that is only a name";
   EXPECT_FALSE(cls("Shape").isA(name("zelmar.testing.Circle")));
   EXPECT_TRUE(cls("Painter").getInfo().isAbstract());
   EXPECT_FALSE(cls("Circle").getInfo().isAbstract());
-
-  // The static flag stays on constructors and statics only.
-  const std::set<std::string> statics = {"origin", "length", "join", "next", "wrap", "half", "fail", "crash"};
-  for (const auto& record : cls("Canvas").getMethodRecords()) {
-    const auto* method = dynamic_cast<const factory::VorloMethod*>(record.get());
-    ASSERT_NE(method, nullptr);
-    const bool noObject = method->getKind() == VORMethodInfo::Kind::Constructor || statics.count(method->getName());
-    EXPECT_EQ((method->getFlags() & factory::VorloMethod::StaticFlag) != 0, noObject) << method->getName();
-    EXPECT_EQ(method->isStatic(), noObject) << method->getName();
-  }
 }
 
 TEST_F(TestPackage, CallsChooseAmongOverloadsByCountAndTypeInTheNearestClass) {
@@ -270,7 +255,8 @@ TEST_F(TestPackage, OneNativeObjectIsOneHostObjectWhileBothLive) {
   const Array none = own(registry.announce(nullptr, name("zelmar.testing.Shape")));
   EXPECT_TRUE(none->isEmpty());
   EXPECT_EQ(hostGetClassName(none.get()), name("zelmar.testing.Shape"));
-  struct Unknown : factory::full::Wrappable {} unknown;
+  struct Unknown : factory::full::Wrappable {
+  } unknown;
   EXPECT_EQ(raised([&] { own(registry.announce(&unknown, name("x.Unknown"))); }), "ZELMAR:vorlo:UnknownClass");
 
   const double before = live();
@@ -309,8 +295,7 @@ TEST_F(TestPackage, EnumerationMembersAreValuesOfTheUInt32Constructor) {
   hostSetEnumerationElement(members.get(), 1, name("Green"));
   EXPECT_EQ(members->word(0), 0u);
   EXPECT_EQ(members->word(1), 1u);
-  EXPECT_EQ(raised([&] { hostSetEnumerationElement(members.get(), 0, name("Purple")); }),
-            "ZELMAR:vorlo:UnknownMember");
+  EXPECT_EQ(raised([&] { hostSetEnumerationElement(members.get(), 0, name("Purple")); }), "ZELMAR:vorlo:UnknownMember");
   EXPECT_FALSE(hostIsObject(members.get()));
 }
 
@@ -345,15 +330,17 @@ TEST_F(TestPackage, ObjectArraysCountTheirObjectsAndSettleTheirClass) {
 
 TEST_F(TestPackage, NativeCodeCallsMethodsOfHostObjects) {
   std::vector<std::string> painted;
-  const Array painter = own(host.makeDerived(
-      "zelmar.testing.Painter", "tests.Painter",
-      {{"paint",
-        [&painted](int, HostArray** outputs, int inputCount, HostArray* const* inputs) {
-          EXPECT_EQ(inputCount, 2);
-          painted.push_back(hostGetClassName(inputs[1]).str());
-          outputs[0] = hostCreateLogicalScalar(painted.size() == 1);
-        }},
-       {"title", [](int, HostArray** outputs, int, HostArray* const*) { outputs[0] = hostCreateString_UTF16(u"P"); }}}));
+  const Array painter =
+      own(host.makeDerived("zelmar.testing.Painter", "tests.Painter",
+                           {{"paint",
+                             [&painted](int, HostArray** outputs, int inputCount, HostArray* const* inputs) {
+                               EXPECT_EQ(inputCount, 2);
+                               painted.push_back(hostGetClassName(inputs[1]).str());
+                               outputs[0] = hostCreateLogicalScalar(painted.size() == 1);
+                             }},
+                            {"title", [](int, HostArray** outputs, int, HostArray* const*) {
+                               outputs[0] = hostCreateString_UTF16(u"P");
+                             }}}));
   const Array canvas = construct("Canvas");
   call(canvas, "add", {construct("Circle").get()});
   call(canvas, "addSquare", {number(1).get()});

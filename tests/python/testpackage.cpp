@@ -187,9 +187,9 @@ void property(VORClass* cls, const char* name, std::uint32_t attributes, const c
       [](const ClassGetter& record, VORValue self, VORValue& value) { value = record.member<Getter>()(self); });
   std::unique_ptr<ClassSetter> setter;
   if (set) {
-    setter = std::make_unique<ClassSetter>(MemberSlot(set), [](const ClassSetter& record, VORValue self, VORValue value) {
-      record.member<Setter>()(self, value);
-    });
+    setter = std::make_unique<ClassSetter>(
+        MemberSlot(set),
+        [](const ClassSetter& record, VORValue self, VORValue value) { record.member<Setter>()(self, value); });
   }
   cls->addProperty(new factory::impl::PropertyImpl(name, "", attributes, std::move(getter), std::move(setter)));
 }
@@ -217,13 +217,17 @@ struct HandleClass : factory::VorloFactoryClassInfo {
 };
 
 void initializeItem(VORClass* cls) {
-  constructor(cls, 0x102, {"zelmar.testing.Item", nullptr}, [](VORValue* out, const VORValue*) { bindNew(new Item, out); });
-  method(cls, "getName", 0, {"VorloFactoryString scalar", "zelmar.testing.Item"}, [](VORValue* out, const VORValue* in) {
-    const std::string name = self<Item>(in[0]).typeName();
-    out[0] = text(basis::ustring(name.begin(), name.end()));
-  });
-  method(cls, "live", 0, {"double scalar", nullptr}, [](VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(live); });
-  method(cls, "ended", 0, {"double scalar", nullptr}, [](VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(ended); });
+  constructor(cls, 0x102, {"zelmar.testing.Item", nullptr},
+              [](VORValue* out, const VORValue*) { bindNew(new Item, out); });
+  method(cls, "getName", 0, {"VorloFactoryString scalar", "zelmar.testing.Item"},
+         [](VORValue* out, const VORValue* in) {
+           const std::string name = self<Item>(in[0]).typeName();
+           out[0] = text(basis::ustring(name.begin(), name.end()));
+         });
+  method(cls, "live", 0, {"double scalar", nullptr},
+         [](VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(live); });
+  method(cls, "ended", 0, {"double scalar", nullptr},
+         [](VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(ended); });
 }
 
 void initializeShape(VORClass* cls) {
@@ -261,31 +265,35 @@ void initializeShape(VORClass* cls) {
   method(cls, "describe", 0, {"VorloFactoryString scalar", S, "logical scalar"}, [](VORValue* out, const VORValue* in) {
     out[0] = text(in[1].logical() ? (shape(in[0]).round ? u"a round shape" : u"a square shape") : u"a shape");
   });
-  method(cls, "secretName", VORMethodInfo::Hidden, {"VorloFactoryString scalar", S}, [](VORValue* out, const VORValue* in) {
-    self<Shape>(in[0]);
-    out[0] = text(u"hidden");
-  });
+  method(cls, "secretName", VORMethodInfo::Hidden, {"VorloFactoryString scalar", S},
+         [](VORValue* out, const VORValue* in) {
+           self<Shape>(in[0]);
+           out[0] = text(u"hidden");
+         });
   // A direct method: the canvas, or the empty double for none.
   const char* directInputs[] = {"zelmar.testing.Shape scalar"};
   const char* directOutputs[] = {"any"};
-  cls->addMethod<Shape*>("getCanvas", 0, 1, directOutputs, 1, directInputs,
-                         [](Shape* shape, int&, VORValue* out, int, const VORValue*) {
-                           factory::impl::validateSelfPointer(shape);
-                           out[0] = shape->data->canvas ? announce(shape->data->canvas, "zelmar.testing.Canvas")
-                                                        : VORValue::ofArray(hostCreateDoubleMatrix(0, 0, HostComplexity::Real));
-                         },
-                         true);
-  property(cls, "Area", 0, "double scalar", [](VORValue s) { return VORValue::ofDouble(shape(s).width * shape(s).height); });
+  cls->addMethod<Shape*>(
+      "getCanvas", 0, 1, directOutputs, 1, directInputs,
+      [](Shape* shape, int&, VORValue* out, int, const VORValue*) {
+        factory::impl::validateSelfPointer(shape);
+        out[0] = shape->data->canvas ? announce(shape->data->canvas, "zelmar.testing.Canvas")
+                                     : VORValue::ofArray(hostCreateDoubleMatrix(0, 0, HostComplexity::Real));
+      },
+      true);
+  property(cls, "Area", 0, "double scalar",
+           [](VORValue s) { return VORValue::ofDouble(shape(s).width * shape(s).height); });
   property(
       cls, "Color", 0, "zelmar.testing.Color", [](VORValue s) { return color(shape(s).color); },
       [](VORValue s, VORValue value) { shape(s).color = static_cast<std::uint32_t>(value.array()->word(0)); });
   property(
-      cls, "Secret", VORPropertyInfo::Hidden, "logical scalar", [](VORValue s) { return VORValue::ofLogical(shape(s).secret); },
+      cls, "Secret", VORPropertyInfo::Hidden, "logical scalar",
+      [](VORValue s) { return VORValue::ofLogical(shape(s).secret); },
       [](VORValue s, VORValue value) { shape(s).secret = value.logical(); });
   const auto* textType = VORTypeRepository::getType(makeInterned("ustringToString scalar"));
   const auto* wordType = VORTypeRepository::getType(makeInterned("uint64 scalar"));
-  cls->addProperty(new VORPropCPPT<Shape, const basis::ustring*>(textType, makeInterned("Label"), makeInterned(""), 2, cls,
-                                                                 &Shape::label, &Shape::setLabel));
+  cls->addProperty(new VORPropCPPT<Shape, const basis::ustring*>(textType, makeInterned("Label"), makeInterned(""), 2,
+                                                                 cls, &Shape::label, &Shape::setLabel));
   cls->addProperty(new VORPropCPPT<Shape, std::uint64_t>(wordType, makeInterned("Serial"), makeInterned(""), 2, cls,
                                                          &Shape::serial, &Shape::setSerial));
 }
@@ -315,7 +323,8 @@ void initializeSquare(VORClass* cls) {
 
 // A new wrapper for each shape, in a 1-by-n array of their common class.
 VORValue shapesOf(const Canvas& canvas) {
-  ArrayPtr array(hostCreateObjectMatrix(1, canvas.shapes.size(), makeInterned("zelmar.testing.Shape")), &hostDestroyArray);
+  ArrayPtr array(hostCreateObjectMatrix(1, canvas.shapes.size(), makeInterned("zelmar.testing.Shape")),
+                 &hostDestroyArray);
   for (std::size_t i = 0; i < canvas.shapes.size(); ++i) {
     const ArrayPtr one(announce(new Shape(canvas.shapes[i]), "zelmar.testing.Shape").array(), &hostDestroyArray);
     hostSetArrayElement(array.get(), i, hostGetArrayElement(one.get(), 0));
@@ -409,7 +418,8 @@ void initializeCanvas(VORClass* cls) {
     self<Canvas>(in[0]);
     out[0] = text(extractString(callBack(in[1].array(), "title", nullptr).get()));
   });
-  method(cls, "origin", 0, {"double scalar", nullptr}, [](VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(0); });
+  method(cls, "origin", 0, {"double scalar", nullptr},
+         [](VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(0); });
   method(cls, "origin", 0, {"double scalar", nullptr, "double scalar"},
          [](VORValue* out, const VORValue* in) { out[0] = VORValue::ofDouble(-in[1].real()); });
   property(
@@ -421,7 +431,8 @@ void initializeCanvas(VORClass* cls) {
 }
 
 struct Abstract final : AbstractMethodInfo {
-  Abstract(const char* method, VORMethodSignaturePtr signature) : AbstractMethodInfo(std::move(signature)), name(method) {}
+  Abstract(const char* method, VORMethodSignaturePtr signature)
+      : AbstractMethodInfo(std::move(signature)), name(method) {}
   const char* getName() const override { return name; }
   const char* name;
 };
