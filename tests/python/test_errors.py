@@ -11,9 +11,11 @@ import zelmar
     [
         (lambda t: t.Canvas.fail("h\u00e9\ud800", 42), "zelmar:testing:failure", ("h\u00e9\ud800", 42),
          "Message zelmar:testing:failure is not in the catalogue; arguments: h\u00e9\ud800, 42"),
-        # A hidden constructor and an abstract class: the catalogue's text with its argument.
+        # A hidden constructor, none, an abstract class: the catalogue's text with its argument.
         (lambda t: t.Square(), "ZELMAR:vorlo:NotConstructible", ("zelmar.testing.Square",),
          "Objects of class zelmar.testing.Square cannot be made from host code."),
+        (lambda t: t.Item(), "ZELMAR:vorlo:NotConstructible", ("zelmar.testing.Item",),
+         "Objects of class zelmar.testing.Item cannot be made from host code."),
         (lambda t: t.Painter(), "ZELMAR:vorlo:NotConstructible", ("zelmar.testing.Painter",),
          "Objects of class zelmar.testing.Painter cannot be made from host code."),
         # A native exception that the library does not translate: named by its type.

@@ -85,13 +85,11 @@ def test_object_arguments_none_lists_and_unrelated_objects(t):
 def test_enumerations_are_intenum_members_by_host_value(t):
     circle = t.Circle()
     assert circle.getColor() is t.Color.Red
-    circle.setColor(t.Color.Blue)
+    circle.Color = t.Color.Blue
     assert circle.getColor() is circle.Color is t.Color.Blue
     assert [(m.name, m.value) for m in t.Color] == [("Red", 0), ("Green", 1), ("Blue", 255)]
-    circle.Color = t.Color.Green
-    assert circle.getColor() is t.Color.Green
     with pytest.raises(TypeError):
-        circle.setColor(255)  # a member, not its number
+        circle.Color = 255  # a member, not its number
 
 
 @pytest.mark.parametrize(

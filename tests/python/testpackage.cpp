@@ -3,9 +3,9 @@
 // registered through the platform's records directly, with every kind of
 // record and value that a package can have.
 //
-//   Item      handle, the base; 0x102 constructor; live/ended counters
-//   Shape     handle on Item and the unregistered zelmar.testing.mixin.Tagged:
-//             overloads, an enumeration, a direct method, a hidden method,
+//   Item      handle, the base, without constructors; live/ended counters
+//   Shape     handle on Item and the unregistered zelmar.testing.mixin.Tagged,
+//             without constructors: overloads, an enumeration, a direct method, a hidden method,
 //             read-only, settable, hidden and typed properties
 //   Circle    handle on Shape with public constructors and its own getArea
 //   Square    handle on Shape with a 0x102 constructor only
@@ -217,8 +217,6 @@ struct HandleClass : factory::VorloFactoryClassInfo {
 };
 
 void initializeItem(VORClass* cls) {
-  constructor(cls, 0x102, {"zelmar.testing.Item", nullptr},
-              [](VORValue* out, const VORValue*) { bindNew(new Item, out); });
   method(cls, "getName", 0, {"VorloFactoryString scalar", "zelmar.testing.Item"},
          [](VORValue* out, const VORValue* in) {
            const std::string name = self<Item>(in[0]).typeName();
@@ -234,8 +232,6 @@ void initializeShape(VORClass* cls) {
   cls->addSuperclass(makeInterned("zelmar.testing.Item"), 1, 0, 1);
   cls->addSuperclass(makeInterned("zelmar.testing.mixin.Tagged"), 1, 0, 1);
   const char* S = "zelmar.testing.Shape";
-  constructor(cls, 0x102, {S, nullptr},
-              [](VORValue* out, const VORValue*) { bindNew(new Shape(std::make_shared<ShapeData>()), out); });
   method(cls, "getArea", 0, {"double scalar", S}, [](VORValue* out, const VORValue* in) {
     out[0] = VORValue::ofDouble(shape(in[0]).width * shape(in[0]).height);
   });
@@ -255,9 +251,6 @@ void initializeShape(VORClass* cls) {
   });
   method(cls, "getColor", 0, {"zelmar.testing.Color", S},
          [](VORValue* out, const VORValue* in) { out[0] = color(shape(in[0]).color); });
-  method(cls, "setColor", 0, {"void", S, "zelmar.testing.Color"}, [](VORValue*, const VORValue* in) {
-    shape(in[0]).color = static_cast<std::uint32_t>(in[1].array()->word(0));
-  });
   method(cls, "isSame", 0, {"logical scalar", S, S}, [](VORValue* out, const VORValue* in) {
     const Shape* other = nativeOf<Shape>(in[1]);
     out[0] = VORValue::ofLogical(other && other->data == self<Shape>(in[0]).data);
