@@ -217,11 +217,6 @@ struct HandleClass : factory::VorloFactoryClassInfo {
 };
 
 void initializeItem(VORClass* cls) {
-  method(cls, "getName", 0, {"VorloFactoryString scalar", "zelmar.testing.Item"},
-         [](VORValue* out, const VORValue* in) {
-           const std::string name = self<Item>(in[0]).typeName();
-           out[0] = text(basis::ustring(name.begin(), name.end()));
-         });
   method(cls, "live", 0, {"double scalar", nullptr},
          [](VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(live); });
   method(cls, "ended", 0, {"double scalar", nullptr},
@@ -335,7 +330,7 @@ void initializeCanvas(VORClass* cls) {
   constructor(cls, 0, {C, nullptr}, [](VORValue* out, const VORValue*) { bindNew(new Canvas, out); });
   constructor(cls, 0, {C, nullptr, string}, [](VORValue* out, const VORValue* in) {
     auto canvas = std::make_unique<Canvas>();
-    canvas->title = extractString(in[1].array());
+    canvas->title = extractString(in[1].array());  // kept whole, zero units included
     bindNew(canvas.release(), out);
   });
   method(cls, "add", 0, {S, C, S}, [](VORValue* out, const VORValue* in) {
@@ -372,11 +367,6 @@ void initializeCanvas(VORClass* cls) {
   method(cls, "kept", 0, {"any", C}, [](VORValue* out, const VORValue* in) {
     const HostArrayProxy& kept = self<Canvas>(in[0]).kept;
     out[0] = VORValue::ofArray(kept.isNull() ? nullptr : new HostArray(*kept.get()));
-  });
-  method(cls, "echo", 0, {string, C, string}, [](VORValue* out, const VORValue* in) {
-    const basis::ustring value = extractString(in[1].array());
-    self<Canvas>(in[0]).title = value;  // kept whole, zero units included
-    out[0] = text(value);
   });
   // Statics: value conversions, errors.
   method(cls, "length", 0, {"double scalar", nullptr, pointer}, [](VORValue* out, const VORValue* in) {
