@@ -184,9 +184,11 @@ TEST_F(TestPackage, CallsAndConstructionChooseAmongOverloadsByCountAndTypeInTheN
   call(square, "scale", {circle.get()});  // the same count as scale(double): the type decides
   EXPECT_EQ(area(square), 9);
   EXPECT_DOUBLE_EQ(area(circle), M_PI * 9 / 4) << "the circle's own getArea; the square's is the shape's";
-  for (const std::vector<HostArray*>& wrong : {std::vector<HostArray*>{text(u"x").get()}, std::vector<HostArray*>{}}) {
+  const Array word = text(u"x");
+  for (const std::vector<HostArray*>& wrong : {std::vector<HostArray*>{word.get()}, std::vector<HostArray*>{}}) {
     EXPECT_EQ(raised([&] { call(square, "scale", wrong); }), "ZELMAR:vorlo:NoSuchMethod");
   }
+
   EXPECT_EQ(raised([&] { call(square, "shrink"); }), "ZELMAR:vorlo:NoSuchMethod");
 
   EXPECT_EQ(callStatic("Canvas", "origin")->real(0), 0);
