@@ -1,22 +1,17 @@
-// Host values, errors raised into the host, native exceptions described for
-// a host, and calls from native code into host objects.
+// Host values, errors raised into the host, and native exceptions described
+// for a host.
 
-#include "platform/samplePackage.hpp"
 #include "support/CppHost.hpp"
 
 #include <ZELMAR/vorlo/errors.hpp>
 #include <host/ForeignError.hpp>
-#include <host/HostArrayProxy.hpp>
 #include <host/hostArrays.hpp>
 #include <host/hostCalls.hpp>
 #include <host/hostRaiseError.hpp>
-#include <vorlo/VORClass.hpp>
 #include <vorlo/VORClient.hpp>
-#include <vorlo/dispatch.hpp>
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 #include <memory>
 #include <stdexcept>
@@ -29,10 +24,6 @@ namespace {
 using Array = std::unique_ptr<HostArray, decltype(&hostDestroyArray)>;
 Array own(HostArray* array) { return Array(array, &hostDestroyArray); }
 vorlo::InternedName name(const char* text) { return vorlo::internal::makeInterned(text); }
-
-Array newThing() {
-  return own(vorlo::dispatch::construct(*vorlo::VORClass::getClass("sample.pkg.Thing"), 0, nullptr));
-}
 
 }  // namespace
 
@@ -68,46 +59,9 @@ TEST(HostArray, EachKindKeepsItsElementsAndNamesItsClass) {
       << "without a host language the platform's error is thrown";
 }
 
-TEST(HostArray, ObjectArraysCountTheirObjectsAndSettleTheirClass) {
-  sample::registerPackage();
-  CppHost host;
-  {
-    const Array thing = newThing();
-    const Array pair = own(hostCreateObjectMatrix(1, 2, name("sample.pkg.Thing")));
-    hostSetArrayElement(pair.get(), 0, hostGetArrayElement(thing.get(), 0));
-    EXPECT_EQ(CppHost::referencesOf(thing.get()), 2);
-    EXPECT_EQ(hostGetArrayElement(pair.get(), 1), nullptr);
-    EXPECT_EQ(hostGetArrayElement(pair.get(), 2), nullptr) << "past the end";
-    EXPECT_EQ(hostGetArrayElement(own(hostCreateDoubleMatrix(1, 1, HostComplexity::Real)).get(), 0), nullptr);
-    {
-      const HostArrayProxy proxy(new HostArray(*pair));
-      const HostArrayProxy copy = proxy;  // NOLINT(performance-unnecessary-copy-initialization): the copy is the test
-      EXPECT_EQ(CppHost::referencesOf(thing.get()), 4) << "a copy counts its objects again";
-    }
-    EXPECT_EQ(CppHost::referencesOf(thing.get()), 2);
-
-    // The class of a heterogeneous array is the nearest one that all share.
-    const Array mixed = own(hostCreateObjectMatrix(1, 2, name("sample.pkg.Nothing")));
-    HostArray* size = hostCreateDoubleMatrix(1, 1, HostComplexity::Real);
-    size->setReal(0, 1);
-    vorlo::dispatch::setProperty(thing.get(), "Size", own(size).get());
-    HostArray* big = nullptr;
-    vorlo::dispatch::callMethod(thing.get(), "bigger", 1, &big, 0, nullptr);
-    hostSetArrayElement(mixed.get(), 0, hostGetArrayElement(own(big).get(), 0));
-    hostSetClassOfHeterogeneousArray(mixed.get());
-    EXPECT_EQ(hostGetClassName(mixed.get()), name("sample.pkg.BigThing"));
-    hostSetArrayElement(mixed.get(), 1, hostGetArrayElement(thing.get(), 0));
-    hostSetClassOfHeterogeneousArray(mixed.get());
-    EXPECT_EQ(hostGetClassName(mixed.get()), name("sample.pkg.Thing"));
-    EXPECT_TRUE(mixed->isHeterogeneous());
-    const Array none = own(hostCreateObjectMatrix(1, 0, name("sample.pkg.Thing")));
-    hostSetClassOfHeterogeneousArray(none.get());
-    EXPECT_EQ(hostGetClassName(none.get()), name("sample.pkg.Thing")) << "no element: the class stays";
-  }
-  EXPECT_EQ(host.liveObjects(), 0);
-}
-
 TEST(HostErrors, RaiseIntoTheAttachedLanguageOrThrowWithoutOne) {
+  EXPECT_THROW(hostCallMethod(name("x.Y"), name("z"), VORGetPublicClient(), 0, nullptr, 0, nullptr, false),
+               basis::except::Exception<ZELMAR::vorlo::NoHostLanguage>);
   try {
     hostRaise(ZELMAR::vorlo::UnknownClass("a.B"));
   } catch (const basis::except::Exception<ZELMAR::vorlo::UnknownClass>& error) {
@@ -141,43 +95,4 @@ TEST(HostErrors, NativeExceptionsAreDescribedByTranslatorsFirst) {
   EXPECT_EQ(range.message, "far");
   EXPECT_FALSE(range.code);
   EXPECT_EQ(host::describeException(std::make_exception_ptr(42)).identifier, "unknown:exception");
-}
-
-TEST(HostCalls, NativeCodeCallsMethodsOfHostObjectsAndConstructsObjects) {
-  sample::registerPackage();
-  {
-    CppHost host;
-    int visits = 0;
-    const Array visitor = own(host.makeDerived(
-        "sample.pkg.Visitor", "tests.CountingVisitor",
-        {{"visit", [&visits](int, HostArray** outputs, int inputCount, HostArray* const*) {
-            visits += inputCount;
-            outputs[0] = hostCreateLogicalScalar(true);
-          }}}));
-    EXPECT_TRUE(host.isA(*hostGetArrayElement(visitor.get(), 0), name("sample.pkg.Visitor")));
-    EXPECT_TRUE(host.isA(*hostGetArrayElement(visitor.get(), 0), name("sample.other.Base")));
-    EXPECT_EQ(host.className(*hostGetArrayElement(visitor.get(), 0)), "tests.CountingVisitor");
-
-    const Array thing = newThing();
-    HostArray* inputs[] = {visitor.get(), thing.get()};
-    HostArray* output = nullptr;
-    hostCallMethod(name("tests.CountingVisitor"), name("visit"), VORGetPublicClient(), 1, &output, 2, inputs, false);
-    EXPECT_EQ(visits, 2);
-    EXPECT_EQ(own(output)->word(0), 1u);
-
-    // A method the object's own class does not have goes to the platform's records.
-    HostArray* name = nullptr;
-    hostCallMethod(hostGetClassName(thing.get()), vorlo::internal::makeInterned("getName"), VORGetPublicClient(), 1,
-                   &name, 1, inputs + 1, false);
-    EXPECT_EQ(hostGetString(own(name).get())->text(), u"thing");
-
-    const Array member = own(hostConstructObjectWithClient(
-        vorlo::internal::makeInterned("sample.pkg.Color"), 1,
-        std::array<HostArray*, 1>{own(hostCreateNumericScalar(HostClassID::UInt32)).get()}.data(),
-        VORGetPublicClient()));
-    EXPECT_EQ(member->classID(), HostClassID::Enumeration);
-    EXPECT_EQ(host.liveObjects(), 2);
-  }
-  EXPECT_THROW(hostCallMethod(name("x.Y"), name("z"), VORGetPublicClient(), 0, nullptr, 0, nullptr, false),
-               basis::except::Exception<ZELMAR::vorlo::NoHostLanguage>);
 }

@@ -20,36 +20,26 @@ def test_one_wrapper_is_one_python_object_while_announced(t, canvas):
     assert canvas.first() is canvas.first()  # the same wrapper twice
     first, again = canvas.shapes(), canvas.shapes()
     assert all(a is not b and a.isSame(b) for a, b in zip(first, again))  # new wrappers, same shapes
-
-
-def test_the_destruction_hook_runs_when_the_python_object_goes(t):
-    live, ended = t.Item.live(), t.Item.ended()
-    circle = t.Circle()
-    gone = weakref.ref(circle)
-    assert t.Item.live() == live + 1
-    del circle
-    assert gone() is None
-    assert (t.Item.live(), t.Item.ended()) == (live, ended + 1)
-
-
-def test_objects_held_by_the_native_side_stay_alive(t):
-    canvas = t.Canvas()
-    circle = t.Circle()
-    canvas.keep([circle])
-    gone = weakref.ref(circle)
-    del circle
-    gc.collect()
-    assert gone() is not None and canvas.kept() is gone()  # a 1-by-1 array: the object
-    canvas.keep(None)
-    assert gone() is None
-
-
-def test_a_wrapper_given_out_again_gets_a_new_python_object_after_the_first_went(t, canvas):
+    # The canvas keeps its wrapper; once its Python object went, a new one stands for it.
     first = canvas.first()
     area, gone = first.getArea(), weakref.ref(first)
     del first
     assert gone() is None
-    assert canvas.first().getArea() == area  # the canvas kept the wrapper; a new Python object stands for it
+    assert canvas.first().getArea() == area
+
+
+def test_the_destruction_hook_runs_when_the_last_holder_lets_go(t):
+    canvas, circle = t.Canvas(), t.Circle()
+    gc.collect()  # nothing of other tests ends meanwhile
+    live, ended, gone = t.Item.live(), t.Item.ended(), weakref.ref(circle)
+    canvas.keep([circle])  # the native side holds it too
+    del circle
+    gc.collect()
+    assert gone() is not None and canvas.kept() is gone()  # a 1-by-1 array: the object
+    assert t.Item.ended() == ended
+    canvas.keep(None)
+    assert gone() is None
+    assert (t.Item.live(), t.Item.ended()) == (live - 1, ended + 1)
 
 
 def test_objects_whose_native_side_went_fail_with_an_error_not_a_crash(t):
@@ -57,15 +47,10 @@ def test_objects_whose_native_side_went_fail_with_an_error_not_a_crash(t):
     canvas.add(t.Circle())
     first = canvas.first()
     canvas.dropFirst()  # the native wrapper goes; its Python object stays
-    for call in (first.getArea, first.getName, lambda: first.Area, lambda: first.scale(2.0)):
+    for call in (first.getArea, lambda: first.Area):
         with pytest.raises(zelmar.Error) as raised:
             call()
         assert raised.value.identifier == "ZELMAR:vorlo:InvalidObject"
-    kept = canvas.first()
-    del canvas  # the canvas deletes the wrapper it pinned
-    with pytest.raises(zelmar.Error):
-        kept.getArea()
-    del kept
 
 
 def test_python_subclasses_of_concrete_classes_keep_their_class(t):
@@ -81,32 +66,16 @@ def test_python_subclasses_of_concrete_classes_keep_their_class(t):
     del big
     assert canvas.kept().note == "Python subclasses have a __dict__"
     assert type(canvas.first()) is t.Circle  # a wrapper of its own: of the class it reports
-
-
-def test_no_other_attributes_on_objects_of_platform_classes(t):
     with pytest.raises(AttributeError):
-        t.Circle().Areaa = 1  # a typo is an error, not a new attribute
-
-
-def run(script):
-    """Runs `script` in a new interpreter with the test package loaded."""
-    prelude = f"""
-        import sys; sys.path.insert(0, {os.path.dirname(__file__)!r})
-        import conftest; t = conftest.load_test_package()
-    """
-    return subprocess.run(
-        [sys.executable, "-c", textwrap.dedent(prelude) + textwrap.dedent(script)],
-        capture_output=True,
-        text=True,
-        timeout=60,
-    )
+        t.Circle().Areaa = 1  # objects of platform classes take no new attributes: a typo is an error
 
 
 @pytest.mark.parametrize(
     "script",
     [
         # Objects of every kind alive, held by Python and by the native side,
-        # and Python objects that the native side holds in a cycle.
+        # Python objects that the native side holds in a cycle, and objects
+        # that call the library from a finaliser of their own.
         """
         canvas = t.Canvas("kept")
         canvas.add(t.Circle(2.0)); first = canvas.first(); shapes = canvas.shapes()
@@ -115,10 +84,6 @@ def run(script):
             def title(self): return "p"
         painter = Painter(); painter.canvas = canvas
         canvas.keep([painter, first]); color = t.Color.Blue
-        print("alive")
-        """,
-        # Exit while objects go from a finaliser of their own.
-        """
         class Noisy(t.Circle):
             def __del__(self): self.getArea()
         keep = [Noisy(1.0) for _ in range(3)]
@@ -136,6 +101,9 @@ def run(script):
     ],
 )
 def test_interpreter_exit_with_objects_alive(script):
-    result = run(script)
+    here = os.path.dirname(__file__)
+    prelude = f"import sys; sys.path.insert(0, {here!r})\nimport conftest; t = conftest.load_test_package()"
+    command = [sys.executable, "-c", prelude + textwrap.dedent(script)]
+    result = subprocess.run(command, capture_output=True, text=True, timeout=60)
     assert (result.returncode, result.stdout.strip()) == (0, "alive"), result.stderr
     assert "Error" not in result.stderr and "Fatal" not in result.stderr, result.stderr

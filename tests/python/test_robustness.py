@@ -1,10 +1,9 @@
 """No Python input crashes the process: random calls with awkward values on
-every method, and random sequences of calls and drops."""
+every method and property."""
 
 import math
 
 from hypothesis import HealthCheck, given, settings, strategies as st
-from hypothesis.stateful import Bundle, RuleBasedStateMachine, consumes, invariant, rule
 
 import zelmar
 from conftest import load_test_package
@@ -46,73 +45,3 @@ def test_random_calls_with_awkward_values_fail_cleanly(data):
             setattr(target, name, arguments[0])
     except EXPECTED:
         pass
-
-
-class Drawings(RuleBasedStateMachine):
-    """Canvases and shapes made, linked, pinned and dropped at random; every
-    object still held answers, or fails with the platform's error once the
-    native wrapper it stood for is gone."""
-
-    canvases = Bundle("canvases")
-    shapes = Bundle("shapes")
-
-    def __init__(self):
-        super().__init__()
-        self.held = []  # what the bundles hold, to check
-
-    def hold(self, obj):
-        self.held.append(obj)
-        return obj
-
-    def let_go(self, obj):
-        self.held.remove(obj)
-
-    @rule(target=canvases)
-    def new_canvas(self):
-        return self.hold(t.Canvas())
-
-    @rule(target=shapes, diameter=st.floats(0, 10))
-    def new_circle(self, diameter):
-        return self.hold(t.Circle(diameter))
-
-    @rule(canvas=canvases, shape=shapes)
-    def add(self, canvas, shape):
-        added = canvas.add(shape)
-        assert added is shape or added is None  # None: the shape's native wrapper is gone
-
-    @rule(target=shapes, canvas=canvases, side=st.floats(0, 10))
-    def add_square(self, canvas, side):
-        return self.hold(canvas.addSquare(side))
-
-    @rule(target=shapes, canvas=canvases)
-    def first(self, canvas):
-        return self.hold(canvas.first())
-
-    @rule(canvas=canvases)
-    def drop_first(self, canvas):
-        canvas.dropFirst()
-
-    @rule(canvas=canvases, kept=st.lists(st.one_of(canvases, shapes), max_size=3))
-    def keep(self, canvas, kept):
-        canvas.keep(kept)
-
-    @rule(obj=consumes(canvases) | consumes(shapes))
-    def drop(self, obj):
-        self.let_go(obj)
-
-    @invariant()
-    def survivors_answer(self):
-        for obj in self.held:
-            if obj is None:  # the first shape of an empty canvas
-                continue
-            if isinstance(obj, t.Canvas):
-                assert len(obj.shapes()) == obj.Count
-                continue
-            try:
-                assert obj.getArea() >= 0
-            except zelmar.Error as error:
-                assert error.identifier == "ZELMAR:vorlo:InvalidObject"
-
-
-Drawings.TestCase.settings = settings(max_examples=60, stateful_step_count=30, deadline=None)
-test_drawings = Drawings.TestCase

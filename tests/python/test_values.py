@@ -10,30 +10,24 @@ import zelmar
 
 
 @pytest.mark.parametrize(
-    "text, back",
+    "text, units",
     [
-        ("", ""),
-        ("héllo wörld", "héllo wörld"),
-        ("\U0001F600 astral", "\U0001F600 astral"),  # a surrogate pair on the native side
-        ("lone \ud800 high, \udfff low", "lone \ud800 high, \udfff low"),
-        ("\udc00\ud800", "\udc00\ud800"),  # reversed: two lone surrogates, not a pair
-        ("cut\0here", "cut"),  # text results end at a zero unit
+        ("", 0),
+        ("héllo wörld", 11),
+        ("\U0001F600 astral", 9),  # a surrogate pair on the native side
+        ("lone \ud800 high, \udfff low", 18),
+        ("\udc00\ud800", 2),  # reversed: two lone surrogates, not a pair
+        ("cut\0here", 8),
     ],
 )
-def test_text_crosses_without_loss_and_results_end_at_a_zero_unit(t, text, back):
-    canvas = t.Canvas()
-    assert canvas.echo(text) == back
-    assert canvas.Title == back
-
-
-@pytest.mark.parametrize("text, units", [("a\0b", 3), ("\U0001F600", 2), ("\ud800", 1), ("", 0)])
-def test_text_arguments_arrive_whole_in_utf16_units(t, text, units):
-    assert t.Canvas().length(text) == units
+def test_text_crosses_without_loss_and_results_end_at_a_zero_unit(t, text, units):
+    assert t.Canvas(text).Title == text.split("\0")[0]
+    assert t.Canvas.length(text) == units  # arguments arrive whole, in UTF-16 units
 
 
 def test_texts_of_several_arguments_stay_apart(t):
     long = "x" * 1000  # no short-string storage: each text has its own buffer
-    assert t.Canvas().join(long, "\U0001F600") == long + "+\U0001F600"
+    assert t.Canvas.join(long, "\U0001F600") == long + "+\U0001F600"
 
 
 @pytest.mark.parametrize(
@@ -43,56 +37,43 @@ def test_texts_of_several_arguments_stay_apart(t):
         ("describe", 1, "a round shape"),  # an int stands for a logical
         ("describe", 0, "a shape"),
         ("half", 3, 1.5),
-        ("half", 2.5, 1.25),
         ("half", True, 0.5),
         ("half", fractions.Fraction(1, 2), 0.25),  # any real number
-        ("half", math.inf, math.inf),
         ("half", -math.inf, -math.inf),
-        ("next", 0, 1),
         ("next", 2**64 - 2, 2**64 - 1),
         ("wrap", 2**32 - 1, 2**32 - 1),
         ("wrap", zelmar.uint32(7), 7),
-    ],
-)
-def test_scalars(t, method, argument, result):
-    target = t.Circle() if method == "describe" else t.Canvas()
-    assert getattr(target, method)(argument) == result
-
-
-def test_nan_crosses_as_nan(t):
-    assert math.isnan(t.Canvas().half(math.nan))
-
-
-@pytest.mark.parametrize(
-    "method, argument, error",
-    [
+        # Values that do not fit fail clearly.
         ("half", 10**400, OverflowError),
         ("next", 2**64, OverflowError),
         ("next", -1, OverflowError),
         ("wrap", 2**32, OverflowError),
-        ("wrap", -1, OverflowError),
         ("next", 1.0, TypeError),  # not an integer
         ("half", "1", TypeError),
         ("half", None, TypeError),
-        ("echo", None, TypeError),
-        ("echo", b"bytes", TypeError),
         ("length", None, TypeError),
+        ("length", b"bytes", TypeError),
     ],
 )
-def test_values_that_do_not_fit_fail_clearly(t, method, argument, error):
-    with pytest.raises(error):
-        getattr(t.Canvas(), method)(argument)
+def test_scalars(t, method, argument, result):
+    call = getattr(t.Circle() if method == "describe" else t.Canvas(), method)
+    if isinstance(result, type):
+        with pytest.raises(result):
+            call(argument)
+    else:
+        assert call(argument) == result
+
+
+def test_nan_crosses_as_nan(t):
+    assert math.isnan(t.Canvas.half(math.nan))
 
 
 def test_object_arguments_none_lists_and_unrelated_objects(t):
     canvas, circle, other = t.Canvas(), t.Circle(1.0), t.Circle(5.0)
-    assert canvas.add(circle) is circle
-    assert canvas.add(None) is None  # an empty value: a null pointer
-    assert canvas.add([other, circle]) is other  # the first counts
-    assert canvas.add((circle,)) is circle
-    assert canvas.add([]) is None
-    assert canvas.add([None, circle]) is None  # an unset first element
-    assert canvas.add(t.Canvas()) is None  # of an unrelated class: arrives as null
+    # None is an empty value, a null pointer; of a list or tuple the first counts, even when it is None;
+    # an object of an unrelated class arrives as null.
+    given = [circle, None, [other, circle], (circle,), [], [None, circle], t.Canvas()]
+    assert [canvas.add(value) for value in given] == [circle, None, other, circle, None, None, None]
     assert canvas.Count == 3
     for wrong in (5, "circle", [circle, 5], object()):
         with pytest.raises(TypeError):
@@ -102,14 +83,11 @@ def test_object_arguments_none_lists_and_unrelated_objects(t):
 def test_enumerations_are_intenum_members_by_host_value(t):
     circle = t.Circle()
     assert circle.getColor() is t.Color.Red
-    circle.setColor(t.Color.Blue)
-    assert circle.getColor() is t.Color.Blue and circle.Color is t.Color.Blue
-    assert int(t.Color.Blue) == 255 and isinstance(t.Color.Blue, int)
+    circle.Color = t.Color.Blue
+    assert circle.getColor() is circle.Color is t.Color.Blue
     assert [(m.name, m.value) for m in t.Color] == [("Red", 0), ("Green", 1), ("Blue", 255)]
-    circle.Color = t.Color.Green
-    assert circle.getColor() is t.Color.Green
     with pytest.raises(TypeError):
-        circle.setColor(255)  # a member, not its number
+        circle.Color = 255  # a member, not its number
 
 
 @pytest.mark.parametrize(
@@ -117,7 +95,6 @@ def test_enumerations_are_intenum_members_by_host_value(t):
     [
         (None, None),
         ("text", "text"),
-        (2.5, 2.5),
         (3, 3.0),  # a number is a double
         (True, True),
         (zelmar.uint32(9), 9),
@@ -135,46 +112,33 @@ def test_any_takes_what_the_native_side_keeps(t, value, back):
 
 def test_any_keeps_host_objects_and_enumeration_members(t):
     canvas, circle, square = t.Canvas(), t.Circle(), t.Canvas().addSquare(1.0)
-    for value in (circle, [circle, square], [None, circle], t.Color.Green):
+    for value in (circle, [None, circle], t.Color.Green):
         canvas.keep(value)
         assert canvas.kept() == value
     canvas.keep([circle, square])
-    assert all(a is b for a, b in zip(canvas.kept(), [circle, square]))
+    assert all(a is b for a, b in zip(canvas.kept(), [circle, square], strict=True))
     for wrong in (object(), {}, [1, "a"], [circle, 1]):
         with pytest.raises(TypeError):
             canvas.keep(wrong)
 
 
 def test_results_are_of_the_class_the_wrapper_reports(t, canvas):
-    shapes = canvas.shapes()
-    assert [type(shape) for shape in shapes] == [t.Circle, t.Square]
-    assert [type(shape) for shape in canvas.Shapes] == [t.Circle, t.Square]
+    assert [type(shape) for shape in canvas.shapes()] == [type(s) for s in canvas.Shapes] == [t.Circle, t.Square]
     assert t.Canvas().shapes() == []  # a vector is a list, empty or not
     assert isinstance(canvas.addSquare(1.0), t.Square)
-
-
-def test_direct_methods_give_the_object_or_none(t, canvas):
-    assert canvas.shapes()[0].getCanvas() is canvas
+    assert canvas.shapes()[0].getCanvas() is canvas  # "any": the object
     assert t.Circle().getCanvas() is None  # the empty double
-
-
-def test_static_records_are_callable_on_the_class_and_on_objects(t):
-    canvas = t.Canvas()
-    assert t.Canvas.origin() == canvas.origin() == 0
-    assert t.Canvas.origin(2) == canvas.origin(2) == -2
-    assert t.Item.live() == canvas.live()
 
 
 def test_overloads_are_chosen_by_count_then_type(t):
     square, circle = t.Canvas().addSquare(2.0), t.Circle(3.0)
-    square.scale(2)
-    assert square.Area == 16
-    square.scale(0.5, 2)
-    assert square.Area == 16
-    square.scale(circle)  # same count as scale(float): the type decides
-    assert square.Area == 9
-    square.scale(None)
-    assert square.Area == 0
+    for arguments, area in [((2,), 16), ((0.5, 2), 16), ((circle,), 9), ((None,), 0)]:
+        square.scale(*arguments)  # scale(circle) has the count of scale(float): the type decides
+        assert square.Area == area
+    assert t.Circle().getArea() == pytest.approx(math.pi / 4)
+    assert t.Circle(4.0).getArea() == pytest.approx(4 * math.pi)
+    with pytest.raises(TypeError, match=r"Circle\(float\)"):
+        t.Circle("x")
 
 
 @pytest.mark.parametrize("arguments", [(), ("x",), (1, 2, 3), (None, None)])
@@ -194,49 +158,29 @@ def test_keywords_are_refused(t):
         t.Canvas(title="x")
 
 
-def test_methods_through_the_class_need_an_object_of_it(t):
-    circle = t.Circle(2.0)
-    assert t.Shape.getArea(circle) == circle.getArea()
-    for wrong in ((t.Canvas(),), (), (5,)):
+def test_statics_on_the_class_and_on_objects_and_methods_through_the_class_with_an_object_of_it(t):
+    canvas, circle = t.Canvas(), t.Circle(2.0)
+    assert (t.Canvas.origin(), t.Canvas.origin(2)) == (canvas.origin(), canvas.origin(2)) == (0, -2)
+    assert t.Shape.getArea(circle) == 4 and circle.getArea() == pytest.approx(math.pi)  # the class's record
+    for wrong in ((canvas,), (), (5,)):
         with pytest.raises(TypeError):
             t.Shape.getArea(*wrong)
-
-
-def test_constructors_chosen_among_overloads(t):
-    assert t.Circle().getArea() == pytest.approx(math.pi / 4)
-    assert t.Circle(4.0).getArea() == pytest.approx(4 * math.pi)
-    assert t.Canvas("x").Title == "x"
-    with pytest.raises(TypeError, match=r"Circle\(float\)"):
-        t.Circle("x")
-
-
-@pytest.mark.parametrize("cls", ["Item", "Shape", "Square", "Painter"])
-def test_classes_without_a_constructor_for_python_refuse(t, cls):
-    with pytest.raises(zelmar.Error) as raised:
-        getattr(t, cls)()
-    assert raised.value.identifier == "ZELMAR:vorlo:NotConstructible"
-    assert raised.value.arguments == (f"zelmar.testing.{cls}",)
 
 
 def test_properties(t):
     circle, canvas = t.Circle(2.0), t.Canvas("a")
     canvas.Title = "b"
     assert canvas.Title == "b"
-    assert canvas.Count == 0
     with pytest.raises(AttributeError, match="has no setter"):
         canvas.Count = 3
     with pytest.raises(AttributeError):
         del canvas.Title
     with pytest.raises(TypeError, match="takes str"):
         canvas.Title = 3
-    assert isinstance(t.Canvas.Title, zelmar._host.HostObject.__class__.__mro__[0]) is False
-    assert type(t.Canvas.__dict__["Title"]).__name__ == "Property"
     # Typed properties: text that may be missing, a 64-bit word.
     assert circle.Label is None
-    circle.Label = "x\ud800"
-    assert circle.Label == "x\ud800"
-    circle.Serial = 2**64 - 1
-    assert circle.Serial == 2**64 - 1
+    circle.Label, circle.Serial = "x\ud800", 2**64 - 1
+    assert (circle.Label, circle.Serial) == ("x\ud800", 2**64 - 1)
     with pytest.raises(OverflowError):
         circle.Serial = -1
     with pytest.raises(TypeError):

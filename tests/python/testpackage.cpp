@@ -1,15 +1,16 @@
 // A small package of the class-object system, made for the tests of the
-// Python host: shapes on canvases, registered through the platform's records
-// directly, with every kind of record and value that a package can have.
+// platform (through the C++ host) and of the Python host: shapes on canvases,
+// registered through the platform's records directly, with every kind of
+// record and value that a package can have.
 //
-//   Item      handle, the base; 0x102 constructor; Live/Ended counters
-//   Shape     handle on Item and the unregistered zelmar.testing.mixin.Tagged:
-//             overloads, an enumeration, a direct method, a hidden method,
+//   Item      handle, the base, without constructors; live/ended counters
+//   Shape     handle on Item and the unregistered zelmar.testing.mixin.Tagged,
+//             without constructors: overloads, an enumeration, a direct method, a hidden method,
 //             read-only, settable, hidden and typed properties
-//   Circle    handle on Shape with public constructors
+//   Circle    handle on Shape with public constructors and its own getArea
 //   Square    handle on Shape with a 0x102 constructor only
-//   Canvas    handle on Item: object, vector and "any" results, statics,
-//             errors, calls back into Python
+//   Canvas    handle on Item: object, vector and "any" results, statics (the
+//             value conversions among them), errors, calls back into the host
 //   Painter   abstract: paint(Shape) -> logical, title() -> string*
 //   Color     enumeration over uint32: Red 0, Green 1, Blue 255
 
@@ -38,19 +39,19 @@
 #include <string>
 #include <vector>
 
-using vorlo::VORValue;
-using vorlo::internal::makeInterned;
-
 namespace {
 
-const char* const package = "zelmar.testing";
+using namespace vorlo;
+using factory::extractString;
+using factory::impl::MemberSlot;
+using internal::makeInterned;
 
 // ---- the native objects -----------------------------------------------------
 
 int live = 0;   // native objects alive
 int ended = 0;  // host objects that went with a native object
 
-struct Item : vorlo::factory::full::Wrappable {
+struct Item : factory::full::Wrappable {
   Item() { ++live; }
   ~Item() override { --live; }
   virtual const char* typeName() const { return "zelmar.testing.Item"; }
@@ -96,18 +97,19 @@ struct Canvas : Item {
 
 template <class T>
 T* nativeOf(VORValue slot) {
-  return dynamic_cast<T*>(vorlo::vorloGetScalarObjectValue({}, slot));
+  return dynamic_cast<T*>(vorloGetScalarObjectValue({}, slot));
 }
 
 template <class T>
 T& self(VORValue slot) {
   T* object = nativeOf<T>(slot);
-  vorlo::factory::impl::validateSelfPointer(object);
+  factory::impl::validateSelfPointer(object);
   return *object;
 }
+ShapeData& shape(VORValue slot) { return *self<Shape>(slot).data; }
 
 VORValue announce(const Item* item, const char* declared) {
-  auto& registry = vorlo::factory::basic::BindingRegistry::instance();
+  auto& registry = factory::basic::BindingRegistry::instance();
   return VORValue::ofArray(item ? registry.announce(item, makeInterned(item->typeName()))
                                 : registry.announce(nullptr, makeInterned(declared)));
 }
@@ -125,8 +127,8 @@ using ArrayPtr = std::unique_ptr<HostArray, decltype(&hostDestroyArray)>;
 // Calls `method` of the host object in element 0 of `target`, with `argument`
 // after it when given; the result belongs to the caller.
 ArrayPtr callBack(HostArray* target, const char* method, HostArray* argument) {
-  vorlo::VORInterface* object = hostGetArrayElement(target, 0);
-  vorlo::factory::impl::validateSelfPointer(object);
+  VORInterface* object = hostGetArrayElement(target, 0);
+  factory::impl::validateSelfPointer(object);
   ArrayPtr self(hostCreateObjectMatrix(1, 1, hostGetClassName(target)), &hostDestroyArray);
   hostSetArrayElement(self.get(), 0, object);
   HostArray* inputs[] = {self.get(), argument};
@@ -142,202 +144,175 @@ struct Failure : basis::i18n::BaseMsgID {
 
 // ---- records ----------------------------------------------------------------
 
-using Body = void (*)(int& outputCount, VORValue* outputs, const VORValue* inputs);
+using Body = void (*)(VORValue* outputs, const VORValue* inputs);
 
-void runBody(const vorlo::factory::VorloMethod& method, vorlo::VORClient* /*client*/, int& outputCount,
-             VORValue* outputs, int /*inputCount*/, const VORValue* inputs) {
-  method.member<Body>()(outputCount, outputs, inputs);
+void runBody(const factory::VorloMethod& method, VORClient* /*client*/, int& outputCount, VORValue* outputs,
+             int /*inputCount*/, const VORValue* inputs) {
+  method.member<Body>()(outputs, inputs);
   if (outputCount == 0) outputCount = 1;
 }
 
-// A method whose types are {output, object type or null, arguments...}.
-void method(vorlo::VORClass* cls, const char* name, std::uint32_t attributes, std::initializer_list<const char*> types,
-            Body body) {
-  vorlo::VORMethodSignaturePtr signature;
-  vorlo::factory::impl::Invoker::createSignature("", types, signature);
-  cls->addMethod(new vorlo::factory::impl::MethodImpl(name, attributes, signature, runBody,
-                                                      vorlo::factory::impl::MemberSlot(body)));
+// Types are {output, object type or null, arguments...}.
+VORMethodSignaturePtr signature(std::initializer_list<const char*> types, const char* description = "") {
+  VORMethodSignaturePtr made;
+  factory::impl::Invoker::createSignature(description, types, made);
+  return made;
 }
 
-void constructor(vorlo::VORClass* cls, std::uint32_t attributes, std::initializer_list<const char*> types, Body body) {
-  vorlo::VORMethodSignaturePtr signature;
-  vorlo::factory::impl::Invoker::createSignature("", types, signature);
-  struct Constructor : vorlo::factory::impl::VorloConstructor {
-    Constructor(std::string name, std::uint32_t words, vorlo::VORMethodSignaturePtr signature, Body run)
-        : VorloConstructor(std::move(name), words, "Makes one.", std::move(signature), invoker), body(run) {}
-    static void invoker(const vorlo::factory::VorloMethod& record, vorlo::VORClient*, int& outputCount,
-                        VORValue* outputs, int, const VORValue* inputs) {
-      static_cast<const Constructor&>(record).body(outputCount, outputs, inputs);
-      if (outputCount == 0) outputCount = 1;
-    }
-    Body body;
-  };
-  cls->addMethod(new Constructor(cls->getShortName(), attributes, signature, body));
+void method(VORClass* cls, const char* name, std::uint32_t attributes, std::initializer_list<const char*> types,
+            Body body) {
+  cls->addMethod(new factory::impl::MethodImpl(name, attributes, signature(types), runBody, MemberSlot(body)));
+}
+
+void constructor(VORClass* cls, std::uint32_t attributes, std::initializer_list<const char*> types, Body body) {
+  cls->addMethod(new factory::VorloMethod(cls->getShortName(), attributes, "Makes one.", signature(types), runBody,
+                                          MemberSlot(body), VORMethodInfo::Kind::Constructor));
 }
 
 // Binds a new native object to the host object under construction.
 void bindNew(Item* item, VORValue* outputs) {
-  vorlo::factory::basic::BindingRegistry::instance().announceForConstructor(item, makeInterned(item->typeName()),
-                                                                            outputs[0].array(), true);
+  factory::basic::BindingRegistry::instance().announceForConstructor(item, makeInterned(item->typeName()),
+                                                                     outputs[0].array(), true);
 }
 
 using Getter = VORValue (*)(VORValue self);
 using Setter = void (*)(VORValue self, VORValue value);
 
-void property(vorlo::VORClass* cls, const char* name, std::uint32_t attributes, const char* type, Getter get,
+void property(VORClass* cls, const char* name, std::uint32_t attributes, const char* type, Getter get,
               Setter set = nullptr) {
-  using vorlo::factory::impl::ClassGetter;
-  using vorlo::factory::impl::ClassSetter;
-  using vorlo::factory::impl::MemberSlot;
-  auto getter = std::make_unique<ClassGetter>(makeInterned(type), MemberSlot(get),
-                                              [](const ClassGetter& record, VORValue self, VORValue& value) {
-                                                value = record.member<Getter>()(self);
-                                              });
+  using factory::impl::ClassGetter;
+  using factory::impl::ClassSetter;
+  auto getter = std::make_unique<ClassGetter>(
+      makeInterned(type), MemberSlot(get),
+      [](const ClassGetter& record, VORValue self, VORValue& value) { value = record.member<Getter>()(self); });
   std::unique_ptr<ClassSetter> setter;
   if (set) {
-    setter = std::make_unique<ClassSetter>(MemberSlot(set), [](const ClassSetter& record, VORValue self, VORValue value) {
-      record.member<Setter>()(self, value);
-    });
+    setter = std::make_unique<ClassSetter>(
+        MemberSlot(set),
+        [](const ClassSetter& record, VORValue self, VORValue value) { record.member<Setter>()(self, value); });
   }
-  cls->addProperty(new vorlo::factory::impl::PropertyImpl(name, "", attributes, std::move(getter), std::move(setter)));
+  cls->addProperty(new factory::impl::PropertyImpl(name, "", attributes, std::move(getter), std::move(setter)));
 }
 
-struct HandleClass : vorlo::factory::VorloFactoryClassInfo {
-  using Initialize = void (*)(vorlo::VORClass* cls);
-  HandleClass(const char* name, const char* description, Initialize body)
-      : VorloFactoryClassInfo(name, description), initialize(body) {}
-  void initializeClass(vorlo::VORClass* cls, vorlo::VORClient* /*client*/) override {
-    vorlo::factory::detail::initStringDataTypes();
+struct HandleClass : factory::VorloFactoryClassInfo {
+  using Initialize = void (*)(VORClass* cls);
+  HandleClass(const char* name, const char* description, Initialize body, const char* detail = nullptr)
+      : VorloFactoryClassInfo(name, description), initialize(body), detailed(detail) {}
+  void initializeClass(VORClass* cls, VORClient* /*client*/) override {
+    factory::detail::initStringDataTypes();
     initialize(cls);
   }
-  void deallocateInstance(vorlo::VORInterface* /*object*/, vorlo::factory::full::Wrappable* instance) override {
+  void deallocateInstance(VORInterface* /*object*/, factory::full::Wrappable* instance) override {
     auto* item = dynamic_cast<Item*>(instance);
     if (!item) return;
     ++ended;
     if (!item->pinned) delete item;
   }
   bool isAbstract() const override { return false; }
+  const char* getDetailedDescription() const override {
+    return detailed ? detailed : VorloFactoryClassInfo::getDetailedDescription();
+  }
   Initialize initialize;
+  const char* detailed;
 };
 
-struct ItemClass final : HandleClass {
-  using HandleClass::HandleClass;
-  const char* getDetailedDescription() const override { return "Everything on a canvas is an item."; }
-};
-
-void initializeItem(vorlo::VORClass* cls) {
-  constructor(cls, 0x102, {"zelmar.testing.Item", nullptr}, [](int&, VORValue* out, const VORValue*) {
-    bindNew(new Item, out);
-  });
-  method(cls, "getName", 0, {"VorloFactoryString scalar", "zelmar.testing.Item"}, [](int&, VORValue* out, const VORValue* in) {
-    const std::string name = self<Item>(in[0]).typeName();
-    out[0] = text(basis::ustring(name.begin(), name.end()));
-  });
-  method(cls, "live", 0, {"double scalar", nullptr}, [](int&, VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(live); });
-  method(cls, "ended", 0, {"double scalar", nullptr}, [](int&, VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(ended); });
+void initializeItem(VORClass* cls) {
+  method(cls, "live", 0, {"double scalar", nullptr},
+         [](VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(live); });
+  method(cls, "ended", 0, {"double scalar", nullptr},
+         [](VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(ended); });
 }
 
-void initializeShape(vorlo::VORClass* cls) {
+void initializeShape(VORClass* cls) {
   cls->addSuperclass(makeInterned("zelmar.testing.Item"), 1, 0, 1);
   cls->addSuperclass(makeInterned("zelmar.testing.mixin.Tagged"), 1, 0, 1);
-  constructor(cls, 0x102, {"zelmar.testing.Shape", nullptr}, [](int&, VORValue* out, const VORValue*) {
-    bindNew(new Shape(std::make_shared<ShapeData>()), out);
-  });
-  const char* self_ = "zelmar.testing.Shape";
-  method(cls, "getArea", 0, {"double scalar", self_}, [](int&, VORValue* out, const VORValue* in) {
-    const ShapeData& data = *self<Shape>(in[0]).data;
-    out[0] = VORValue::ofDouble(data.round ? M_PI * data.width * data.width / 4 : data.width * data.height);
+  const char* S = "zelmar.testing.Shape";
+  method(cls, "getArea", 0, {"double scalar", S}, [](VORValue* out, const VORValue* in) {
+    out[0] = VORValue::ofDouble(shape(in[0]).width * shape(in[0]).height);
   });
   // Overloads: by count, and by type at the same count.
-  method(cls, "scale", 0, {"void", self_, "double scalar"}, [](int&, VORValue*, const VORValue* in) {
-    ShapeData& data = *self<Shape>(in[0]).data;
-    data.width *= in[1].real();
-    data.height *= in[1].real();
+  method(cls, "scale", 0, {"void", S, "double scalar"}, [](VORValue*, const VORValue* in) {
+    shape(in[0]).width *= in[1].real();
+    shape(in[0]).height *= in[1].real();
   });
-  method(cls, "scale", 0, {"void", self_, "zelmar.testing.Shape"}, [](int&, VORValue*, const VORValue* in) {
-    ShapeData& data = *self<Shape>(in[0]).data;
+  method(cls, "scale", 0, {"void", S, S}, [](VORValue*, const VORValue* in) {
     const Shape* other = nativeOf<Shape>(in[1]);
-    data.width = other ? other->data->width : 0;
-    data.height = other ? other->data->height : 0;
+    shape(in[0]).width = other ? other->data->width : 0;
+    shape(in[0]).height = other ? other->data->height : 0;
   });
-  method(cls, "scale", 0, {"void", self_, "double scalar", "double scalar"}, [](int&, VORValue*, const VORValue* in) {
-    ShapeData& data = *self<Shape>(in[0]).data;
-    data.width *= in[1].real();
-    data.height *= in[2].real();
+  method(cls, "scale", 0, {"void", S, "double scalar", "double scalar"}, [](VORValue*, const VORValue* in) {
+    shape(in[0]).width *= in[1].real();
+    shape(in[0]).height *= in[2].real();
   });
-  method(cls, "getColor", 0, {"zelmar.testing.Color", self_}, [](int&, VORValue* out, const VORValue* in) {
-    out[0] = color(self<Shape>(in[0]).data->color);
-  });
-  method(cls, "setColor", 0, {"void", self_, "zelmar.testing.Color"}, [](int&, VORValue*, const VORValue* in) {
-    self<Shape>(in[0]).data->color = static_cast<std::uint32_t>(in[1].array()->word(0));
-  });
-  method(cls, "isSame", 0, {"logical scalar", self_, "zelmar.testing.Shape"}, [](int&, VORValue* out, const VORValue* in) {
+  method(cls, "getColor", 0, {"zelmar.testing.Color", S},
+         [](VORValue* out, const VORValue* in) { out[0] = color(shape(in[0]).color); });
+  method(cls, "isSame", 0, {"logical scalar", S, S}, [](VORValue* out, const VORValue* in) {
     const Shape* other = nativeOf<Shape>(in[1]);
     out[0] = VORValue::ofLogical(other && other->data == self<Shape>(in[0]).data);
   });
-  method(cls, "describe", 0, {"VorloFactoryString scalar", self_, "logical scalar"}, [](int&, VORValue* out, const VORValue* in) {
-    const ShapeData& data = *self<Shape>(in[0]).data;
-    out[0] = text(in[1].logical() ? (data.round ? u"a round shape" : u"a square shape") : u"a shape");
+  method(cls, "describe", 0, {"VorloFactoryString scalar", S, "logical scalar"}, [](VORValue* out, const VORValue* in) {
+    out[0] = text(in[1].logical() ? (shape(in[0]).round ? u"a round shape" : u"a square shape") : u"a shape");
   });
-  method(cls, "secretName", vorlo::VORMethodInfo::Hidden, {"VorloFactoryString scalar", self_},
-         [](int&, VORValue* out, const VORValue* in) {
+  method(cls, "secretName", VORMethodInfo::Hidden, {"VorloFactoryString scalar", S},
+         [](VORValue* out, const VORValue* in) {
            self<Shape>(in[0]);
            out[0] = text(u"hidden");
          });
   // A direct method: the canvas, or the empty double for none.
   const char* directInputs[] = {"zelmar.testing.Shape scalar"};
   const char* directOutputs[] = {"any"};
-  cls->addMethod<Shape*>("getCanvas", 0, 1, directOutputs, 1, directInputs,
-                         [](Shape* shape, int&, VORValue* out, int, const VORValue*) {
-                           vorlo::factory::impl::validateSelfPointer(shape);
-                           out[0] = shape->data->canvas ? announce(shape->data->canvas, "zelmar.testing.Canvas")
-                                                        : VORValue::ofArray(hostCreateDoubleMatrix(0, 0, HostComplexity::Real));
-                         },
-                         true);
-  property(cls, "Area", 0, "double scalar", [](VORValue s) {
-    const ShapeData& data = *self<Shape>(s).data;
-    return VORValue::ofDouble(data.width * data.height);
-  });
+  cls->addMethod<Shape*>(
+      "getCanvas", 0, 1, directOutputs, 1, directInputs,
+      [](Shape* shape, int&, VORValue* out, int, const VORValue*) {
+        factory::impl::validateSelfPointer(shape);
+        out[0] = shape->data->canvas ? announce(shape->data->canvas, "zelmar.testing.Canvas")
+                                     : VORValue::ofArray(hostCreateDoubleMatrix(0, 0, HostComplexity::Real));
+      },
+      true);
+  property(cls, "Area", 0, "double scalar",
+           [](VORValue s) { return VORValue::ofDouble(shape(s).width * shape(s).height); });
   property(
-      cls, "Color", 0, "zelmar.testing.Color", [](VORValue s) { return color(self<Shape>(s).data->color); },
-      [](VORValue s, VORValue value) { self<Shape>(s).data->color = static_cast<std::uint32_t>(value.array()->word(0)); });
+      cls, "Color", 0, "zelmar.testing.Color", [](VORValue s) { return color(shape(s).color); },
+      [](VORValue s, VORValue value) { shape(s).color = static_cast<std::uint32_t>(value.array()->word(0)); });
   property(
-      cls, "Secret", vorlo::VORPropertyInfo::Hidden, "logical scalar",
-      [](VORValue s) { return VORValue::ofLogical(self<Shape>(s).data->secret); },
-      [](VORValue s, VORValue value) { self<Shape>(s).data->secret = value.logical(); });
-  const auto* textType = vorlo::VORTypeRepository::getType(makeInterned("ustringToString scalar"));
-  const auto* wordType = vorlo::VORTypeRepository::getType(makeInterned("uint64 scalar"));
-  cls->addProperty(new vorlo::VORPropCPPT<Shape, const basis::ustring*>(textType, makeInterned("Label"), makeInterned(""), 2,
-                                                                        cls, &Shape::label, &Shape::setLabel));
-  cls->addProperty(new vorlo::VORPropCPPT<Shape, std::uint64_t>(wordType, makeInterned("Serial"), makeInterned(""), 2, cls,
-                                                                 &Shape::serial, &Shape::setSerial));
+      cls, "Secret", VORPropertyInfo::Hidden, "logical scalar",
+      [](VORValue s) { return VORValue::ofLogical(shape(s).secret); },
+      [](VORValue s, VORValue value) { shape(s).secret = value.logical(); });
+  const auto* textType = VORTypeRepository::getType(makeInterned("ustringToString scalar"));
+  const auto* wordType = VORTypeRepository::getType(makeInterned("uint64 scalar"));
+  cls->addProperty(new VORPropCPPT<Shape, const basis::ustring*>(textType, makeInterned("Label"), makeInterned(""), 2,
+                                                                 cls, &Shape::label, &Shape::setLabel));
+  cls->addProperty(new VORPropCPPT<Shape, std::uint64_t>(wordType, makeInterned("Serial"), makeInterned(""), 2, cls,
+                                                         &Shape::serial, &Shape::setSerial));
 }
 
-void initializeCircle(vorlo::VORClass* cls) {
+void newCircle(double diameter, VORValue* out) {
+  auto data = std::make_shared<ShapeData>();
+  data->round = true;
+  data->width = data->height = diameter;
+  bindNew(new Shape(data), out);
+}
+
+void initializeCircle(VORClass* cls) {
   cls->addSuperclass(makeInterned("zelmar.testing.Shape"), 1, 0, 1);
-  constructor(cls, 0, {"zelmar.testing.Circle", nullptr}, [](int&, VORValue* out, const VORValue*) {
-    auto data = std::make_shared<ShapeData>();
-    data->round = true;
-    bindNew(new Shape(data), out);
-  });
-  constructor(cls, 0, {"zelmar.testing.Circle", nullptr, "double scalar"}, [](int&, VORValue* out, const VORValue* in) {
-    auto data = std::make_shared<ShapeData>();
-    data->round = true;
-    data->width = data->height = in[1].real();
-    bindNew(new Shape(data), out);
+  constructor(cls, 0, {"zelmar.testing.Circle", nullptr}, [](VORValue* out, const VORValue*) { newCircle(1, out); });
+  constructor(cls, 0, {"zelmar.testing.Circle", nullptr, "double scalar"},
+              [](VORValue* out, const VORValue* in) { newCircle(in[1].real(), out); });
+  method(cls, "getArea", 0, {"double scalar", "zelmar.testing.Circle"}, [](VORValue* out, const VORValue* in) {
+    out[0] = VORValue::ofDouble(M_PI * shape(in[0]).width * shape(in[0]).width / 4);
   });
 }
 
-void initializeSquare(vorlo::VORClass* cls) {
+void initializeSquare(VORClass* cls) {
   cls->addSuperclass(makeInterned("zelmar.testing.Shape"), 1, 0, 1);
-  constructor(cls, 0x102, {"zelmar.testing.Square", nullptr}, [](int&, VORValue* out, const VORValue*) {
-    bindNew(new Shape(std::make_shared<ShapeData>()), out);
-  });
+  constructor(cls, 0x102, {"zelmar.testing.Square", nullptr},
+              [](VORValue* out, const VORValue*) { bindNew(new Shape(std::make_shared<ShapeData>()), out); });
 }
 
 // A new wrapper for each shape, in a 1-by-n array of their common class.
 VORValue shapesOf(const Canvas& canvas) {
-  ArrayPtr array(hostCreateObjectMatrix(1, canvas.shapes.size(), makeInterned("zelmar.testing.Shape")), &hostDestroyArray);
+  ArrayPtr array(hostCreateObjectMatrix(1, canvas.shapes.size(), makeInterned("zelmar.testing.Shape")),
+                 &hostDestroyArray);
   for (std::size_t i = 0; i < canvas.shapes.size(); ++i) {
     const ArrayPtr one(announce(new Shape(canvas.shapes[i]), "zelmar.testing.Shape").array(), &hostDestroyArray);
     hostSetArrayElement(array.get(), i, hostGetArrayElement(one.get(), 0));
@@ -346,16 +321,19 @@ VORValue shapesOf(const Canvas& canvas) {
   return VORValue::ofArray(array.release());
 }
 
-void initializeCanvas(vorlo::VORClass* cls) {
+void initializeCanvas(VORClass* cls) {
   cls->addSuperclass(makeInterned("zelmar.testing.Item"), 1, 0, 1);
-  const char* self_ = "zelmar.testing.Canvas";
-  constructor(cls, 0, {self_, nullptr}, [](int&, VORValue* out, const VORValue*) { bindNew(new Canvas, out); });
-  constructor(cls, 0, {self_, nullptr, "VorloFactoryString scalar"}, [](int&, VORValue* out, const VORValue* in) {
+  const char* C = "zelmar.testing.Canvas";
+  const char* S = "zelmar.testing.Shape";
+  const char* string = "VorloFactoryString scalar";
+  const char* pointer = "ustringToString scalar";
+  constructor(cls, 0, {C, nullptr}, [](VORValue* out, const VORValue*) { bindNew(new Canvas, out); });
+  constructor(cls, 0, {C, nullptr, string}, [](VORValue* out, const VORValue* in) {
     auto canvas = std::make_unique<Canvas>();
-    canvas->title = vorlo::factory::extractString(in[1].array());
+    canvas->title = extractString(in[1].array());  // kept whole, zero units included
     bindNew(canvas.release(), out);
   });
-  method(cls, "add", 0, {"zelmar.testing.Shape", self_, "zelmar.testing.Shape"}, [](int&, VORValue* out, const VORValue* in) {
+  method(cls, "add", 0, {S, C, S}, [](VORValue* out, const VORValue* in) {
     Canvas& canvas = self<Canvas>(in[0]);
     Shape* shape = nativeOf<Shape>(in[1]);
     if (shape) {
@@ -364,7 +342,7 @@ void initializeCanvas(vorlo::VORClass* cls) {
     }
     out[0] = announce(shape, "zelmar.testing.Shape");  // its argument, as the library's setters do
   });
-  method(cls, "addSquare", 0, {"zelmar.testing.Square", self_, "double scalar"}, [](int&, VORValue* out, const VORValue* in) {
+  method(cls, "addSquare", 0, {"zelmar.testing.Square", C, "double scalar"}, [](VORValue* out, const VORValue* in) {
     Canvas& canvas = self<Canvas>(in[0]);
     auto data = std::make_shared<ShapeData>();
     data->width = data->height = in[1].real();
@@ -372,7 +350,7 @@ void initializeCanvas(vorlo::VORClass* cls) {
     canvas.shapes.push_back(data);
     out[0] = announce(new Shape(data), "zelmar.testing.Square");
   });
-  method(cls, "first", 0, {"zelmar.testing.Shape", self_}, [](int&, VORValue* out, const VORValue* in) {
+  method(cls, "first", 0, {S, C}, [](VORValue* out, const VORValue* in) {
     Canvas& canvas = self<Canvas>(in[0]);
     if (!canvas.first && !canvas.shapes.empty()) {
       canvas.first = std::make_unique<Shape>(canvas.shapes.front());
@@ -380,104 +358,79 @@ void initializeCanvas(vorlo::VORClass* cls) {
     }
     out[0] = announce(canvas.first.get(), "zelmar.testing.Shape");
   });
-  method(cls, "dropFirst", 0, {"void", self_}, [](int&, VORValue*, const VORValue* in) { self<Canvas>(in[0]).first.reset(); });
-  method(cls, "shapes", 0, {"zelmar.testing.Shape vector", self_}, [](int&, VORValue* out, const VORValue* in) {
-    out[0] = shapesOf(self<Canvas>(in[0]));
-  });
-  method(cls, "keep", 0, {"void", self_, "any"}, [](int&, VORValue*, const VORValue* in) {
+  method(cls, "dropFirst", 0, {"void", C}, [](VORValue*, const VORValue* in) { self<Canvas>(in[0]).first.reset(); });
+  method(cls, "shapes", 0, {"zelmar.testing.Shape vector", C},
+         [](VORValue* out, const VORValue* in) { out[0] = shapesOf(self<Canvas>(in[0])); });
+  method(cls, "keep", 0, {"void", C, "any"}, [](VORValue*, const VORValue* in) {
     self<Canvas>(in[0]).kept = HostArrayProxy(in[1].array() ? new HostArray(*in[1].array()) : nullptr);
   });
-  method(cls, "kept", 0, {"any", self_}, [](int&, VORValue* out, const VORValue* in) {
+  method(cls, "kept", 0, {"any", C}, [](VORValue* out, const VORValue* in) {
     const HostArrayProxy& kept = self<Canvas>(in[0]).kept;
     out[0] = VORValue::ofArray(kept.isNull() ? nullptr : new HostArray(*kept.get()));
   });
-  method(cls, "echo", 0, {"VorloFactoryString scalar", self_, "VorloFactoryString scalar"},
-         [](int&, VORValue* out, const VORValue* in) {
-           const basis::ustring value = vorlo::factory::extractString(in[1].array());
-           self<Canvas>(in[0]).title = value;  // kept whole, zero units included
-           out[0] = text(value);
-         });
-  method(cls, "length", 0, {"double scalar", self_, "ustringToString scalar"}, [](int&, VORValue* out, const VORValue* in) {
-    self<Canvas>(in[0]);
+  // Statics: value conversions, errors.
+  method(cls, "length", 0, {"double scalar", nullptr, pointer}, [](VORValue* out, const VORValue* in) {
     out[0] = VORValue::ofDouble(in[1].text() ? static_cast<double>(in[1].text()->size()) : -1);
   });
-  method(cls, "join", 0, {"VorloFactoryString scalar", self_, "ustringToString scalar", "ustringToString scalar"},
-         [](int&, VORValue* out, const VORValue* in) {
-           self<Canvas>(in[0]);
-           out[0] = text(*in[1].text() + u"+" + *in[2].text());
-         });
-  method(cls, "next", 0, {"uint64 scalar", self_, "uint64 scalar"}, [](int&, VORValue* out, const VORValue* in) {
-    self<Canvas>(in[0]);
-    out[0] = VORValue::ofWord(in[1].word() + 1);
+  method(cls, "join", 0, {string, nullptr, pointer, pointer},
+         [](VORValue* out, const VORValue* in) { out[0] = text(*in[1].text() + u"+" + *in[2].text()); });
+  method(cls, "next", 0, {"uint64 scalar", nullptr, "uint64 scalar"},
+         [](VORValue* out, const VORValue* in) { out[0] = VORValue::ofWord(in[1].word() + 1); });
+  method(cls, "wrap", 0, {"uint32", nullptr, "uint32"},
+         [](VORValue* out, const VORValue* in) { out[0] = VORValue::ofArray(new HostArray(*in[1].array())); });
+  method(cls, "half", 0, {"double scalar", nullptr, "double scalar"},
+         [](VORValue* out, const VORValue* in) { out[0] = VORValue::ofDouble(in[1].real() / 2); });
+  method(cls, "fail", 0, {"void", nullptr, string, "double scalar"}, [](VORValue*, const VORValue* in) {
+    hostRaise(Failure(extractString(in[1].array()), static_cast<std::int64_t>(in[2].real())));
   });
-  method(cls, "wrap", 0, {"uint32", self_, "uint32"}, [](int&, VORValue* out, const VORValue* in) {
-    self<Canvas>(in[0]);
-    out[0] = VORValue::ofArray(new HostArray(*in[1].array()));
-  });
-  method(cls, "half", 0, {"double scalar", self_, "double scalar"}, [](int&, VORValue* out, const VORValue* in) {
-    self<Canvas>(in[0]);
-    out[0] = VORValue::ofDouble(in[1].real() / 2);
-  });
-  method(cls, "fail", 0, {"void", self_, "VorloFactoryString scalar", "double scalar"}, [](int&, VORValue*, const VORValue* in) {
-    self<Canvas>(in[0]);
-    hostRaise(Failure(vorlo::factory::extractString(in[1].array()), static_cast<std::int64_t>(in[2].real())));
-  });
-  method(cls, "crash", 0, {"void", self_, "VorloFactoryString scalar"}, [](int&, VORValue*, const VORValue* in) {
-    self<Canvas>(in[0]);
-    const basis::ustring what = vorlo::factory::extractString(in[1].array());
+  method(cls, "crash", 0, {"void", nullptr, string}, [](VORValue*, const VORValue* in) {
+    const basis::ustring what = extractString(in[1].array());
     throw std::out_of_range(std::string(what.begin(), what.end()));
   });
-  // Calls back into Python: paint each shape, count the shapes painted.
-  method(cls, "render", 0, {"double scalar", self_, "zelmar.testing.Painter"}, [](int&, VORValue* out, const VORValue* in) {
-    Canvas& canvas = self<Canvas>(in[0]);
+  // Calls back into the host: paint each shape, count the shapes painted.
+  method(cls, "render", 0, {"double scalar", C, "zelmar.testing.Painter"}, [](VORValue* out, const VORValue* in) {
     int painted = 0;
-    for (const auto& data : canvas.shapes) {
+    for (const auto& data : self<Canvas>(in[0]).shapes) {
       ArrayPtr shape(announce(new Shape(data), "zelmar.testing.Shape").array(), &hostDestroyArray);
       const ArrayPtr result = callBack(in[1].array(), "paint", shape.get());
       painted += result && result->word(0) != 0 ? 1 : 0;
     }
     out[0] = VORValue::ofDouble(painted);
   });
-  method(cls, "titleOf", 0, {"VorloFactoryString scalar", self_, "zelmar.testing.Painter"},
-         [](int&, VORValue* out, const VORValue* in) {
-           self<Canvas>(in[0]);
-           const ArrayPtr result = callBack(in[1].array(), "title", nullptr);
-           out[0] = text(vorlo::factory::extractString(result.get()));
-         });
-  method(cls, "origin", 0, {"double scalar", nullptr}, [](int&, VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(0); });
-  method(cls, "origin", 0, {"double scalar", nullptr, "double scalar"}, [](int&, VORValue* out, const VORValue* in) {
-    out[0] = VORValue::ofDouble(-in[1].real());
+  method(cls, "titleOf", 0, {string, C, "zelmar.testing.Painter"}, [](VORValue* out, const VORValue* in) {
+    self<Canvas>(in[0]);
+    out[0] = text(extractString(callBack(in[1].array(), "title", nullptr).get()));
   });
+  method(cls, "origin", 0, {"double scalar", nullptr},
+         [](VORValue* out, const VORValue*) { out[0] = VORValue::ofDouble(0); });
+  method(cls, "origin", 0, {"double scalar", nullptr, "double scalar"},
+         [](VORValue* out, const VORValue* in) { out[0] = VORValue::ofDouble(-in[1].real()); });
   property(
-      cls, "Title", 0, "VorloFactoryString scalar", [](VORValue s) { return text(self<Canvas>(s).title); },
-      [](VORValue s, VORValue value) { self<Canvas>(s).title = vorlo::factory::extractString(value.array()); });
+      cls, "Title", 0, string, [](VORValue s) { return text(self<Canvas>(s).title); },
+      [](VORValue s, VORValue value) { self<Canvas>(s).title = extractString(value.array()); });
   property(cls, "Count", 0, "double scalar",
            [](VORValue s) { return VORValue::ofDouble(static_cast<double>(self<Canvas>(s).shapes.size())); });
   property(cls, "Shapes", 0, "zelmar.testing.Shape vector", [](VORValue s) { return shapesOf(self<Canvas>(s)); });
 }
 
-struct Abstract final : vorlo::AbstractMethodInfo {
-  Abstract(const char* method, vorlo::VORMethodSignaturePtr signature) : AbstractMethodInfo(std::move(signature)), name(method) {}
+struct Abstract final : AbstractMethodInfo {
+  Abstract(const char* method, VORMethodSignaturePtr signature)
+      : AbstractMethodInfo(std::move(signature)), name(method) {}
   const char* getName() const override { return name; }
   const char* name;
 };
 
-struct PainterClass final : vorlo::VORClassInfo {
+struct PainterClass final : VORClassInfo {
   const char* getName() const override { return "Painter"; }
-  void initializeClass(vorlo::VORClass* cls, vorlo::VORClient* /*client*/) override {
+  void initializeClass(VORClass* cls, VORClient* /*client*/) override {
     cls->addSuperclass(makeInterned("zelmar.testing.mixin.Surface"), 1, 0, 1);
-    vorlo::VORMethodSignaturePtr paint;
-    vorlo::factory::impl::Invoker::createSignature("Paints the shape; whether it did.",
-                                                   {"logical scalar", "zelmar.testing.Painter", "zelmar.testing.Shape"},
-                                                   paint);
-    cls->addMethod(new Abstract("paint", paint));
-    vorlo::VORMethodSignaturePtr title;
-    vorlo::factory::impl::Invoker::createSignature("", {"ustringToString scalar", "zelmar.testing.Painter"}, title);
-    cls->addMethod(new Abstract("title", title));
+    cls->addMethod(new Abstract("paint", signature({"logical scalar", "zelmar.testing.Painter", "zelmar.testing.Shape"},
+                                                   "Paints the shape; whether it did.")));
+    cls->addMethod(new Abstract("title", signature({"ustringToString scalar", "zelmar.testing.Painter"})));
   }
 };
 
-struct ColorMember final : vorlo::VOREnumInfo {
+struct ColorMember final : VOREnumInfo {
   ColorMember(const char* member, std::uint32_t number) : name(member), value(number) {}
   ~ColorMember() override { hostDestroyArray(cached); }
   const char* getName() const override { return name; }
@@ -496,32 +449,29 @@ struct ColorMember final : vorlo::VOREnumInfo {
 };
 
 // The value constructor: the uint32 class's own constructor sets the value.
-struct ColorConstructor final : vorlo::VORMethodInfo {
-  explicit ColorConstructor(vorlo::VORClass* enumeration) : cls(enumeration) {
-    vorlo::factory::impl::Invoker::createSignature("", {"zelmar.testing.Color", "uint32"}, signature);
-  }
+struct ColorConstructor final : VORMethodInfo {
+  explicit ColorConstructor(VORClass* enumeration) : cls(enumeration) {}
   const char* getName() const override { return "Color"; }
-  vorlo::VORMethodSignaturePtr getSignature() const override { return signature; }
+  VORMethodSignaturePtr getSignature() const override { return made; }
   Kind getKind() const override { return Kind::ValueConstructor; }
-  bool isFirstArgDispatch() const override { return false; }
-  void invoke(vorlo::VORClient*, int& outputCount, VORValue* outputs, int inputCount, const VORValue* inputs) const override {
-    vorlo::VORIterator methods = vorlo::VORClass::getClass("uint32")->getMethods("uint32");
-    const vorlo::VORMethodInfo* uint32 = vorlo::voriToMethod(methods.nextElement());
+  void invoke(VORClient*, int& outputCount, VORValue* outputs, int inputCount, const VORValue* inputs) const override {
+    VORIterator methods = VORClass::getClass("uint32")->getMethods("uint32");
+    const VORMethodInfo* uint32 = voriToMethod(methods.nextElement());
     cls->constructSuperclass({outputs[0].array(), makeInterned("uint32"), uint32, 1, outputs, inputCount, inputs});
     if (outputCount == 0) outputCount = 1;
   }
-  vorlo::VORClass* cls;
-  vorlo::VORMethodSignaturePtr signature;
+  VORClass* cls;
+  VORMethodSignaturePtr made = signature({"zelmar.testing.Color", "uint32"});
 };
 
-struct ColorClass final : vorlo::VORClassInfo {
+struct ColorClass final : VORClassInfo {
   const char* getName() const override { return "Color"; }
   const char* getDescription() const override { return "Colours of shapes"; }
-  void initializeClass(vorlo::VORClass* cls, vorlo::VORClient* /*client*/) override {
+  void initializeClass(VORClass* cls, VORClient* /*client*/) override {
     cls->addSuperclass(makeInterned("uint32"), 0, 0, 1);
-    cls->addEnumerationMember(new ColorMember("Red", 0));
-    cls->addEnumerationMember(new ColorMember("Green", 1));
-    cls->addEnumerationMember(new ColorMember("Blue", 255));
+    for (const auto& [name, value] : {std::pair{"Red", 0u}, {"Green", 1u}, {"Blue", 255u}}) {
+      cls->addEnumerationMember(new ColorMember(name, value));
+    }
     cls->addMethod(new ColorConstructor(cls));
   }
   bool isEnumeration() const override { return true; }
@@ -534,13 +484,15 @@ struct ColorClass final : vorlo::VORClassInfo {
 /// Registers the package "zelmar.testing", once. Its classes come in an
 /// order where derived classes precede their bases.
 extern "C" __attribute__((visibility("default"))) void ModuleInitialize_zelmar_testpackage() {
-  vorlo::factory::registerVorloPackage(package, [](vorlo::VORPackage* added) {
+  factory::registerVorloPackage("zelmar.testing", [](VORPackage* added) {
     added->addClass(new PainterClass, 2);
     added->addClass(new HandleClass("Circle", "A round shape", initializeCircle), 2);
     added->addClass(new HandleClass("Canvas", "Holds shapes", initializeCanvas), 2);
     added->addClass(new ColorClass, 2);
     added->addClass(new HandleClass("Shape", "A shape on a canvas", initializeShape), 2);
     added->addClass(new HandleClass("Square", "A square shape", initializeSquare), 2);
-    added->addClass(new ItemClass("Item", "Base of the test package's objects", initializeItem), 2);
+    added->addClass(new HandleClass("Item", "Base of the test package's objects", initializeItem,
+                                    "Everything on a canvas is an item."),
+                    2);
   });
 }
