@@ -94,21 +94,16 @@ def test_hidden_records_stay_out_of_listings_and_work(doc):
     # The hidden older names set what their listed twins read.
     config.DisableDefaultEntityResolution, config.HasPSVIInfo = True, True
     assert config.DisableEntityResolution is True and config.HasPSVI is True
-
-
-def test_identity_constraint_checking_reads_schema_full_checking():
-    config = dom.Parser().Configuration
-    config.SchemaFullChecking = True
-    config.IdentityConstraintChecking = False  # sets its own option ...
-    assert config.IdentityConstraintChecking is True  # ... and reads the other one
+    # IdentityConstraintChecking sets its own option and reads SchemaFullChecking's.
+    config.SchemaFullChecking, config.IdentityConstraintChecking = True, False
+    assert config.IdentityConstraintChecking is True
     config.SchemaFullChecking = False
     assert config.IdentityConstraintChecking is False
 
 
 def test_enumerations_are_int_enums_of_the_host_values():
     members = {cls: [(m.name, int(m)) for m in cls] for cls in (dom.ParseErrorSeverity, dom.ResourceIdentifierType)}
-    assert all(issubclass(cls, enum.IntEnum) for cls in members)
-    assert members == {
+    assert all(issubclass(cls, enum.IntEnum) for cls in members) and members == {
         dom.ParseErrorSeverity: [("Warning", 0), ("Error", 1), ("FatalError", 2), ("UnknownError", 3)],
         dom.ResourceIdentifierType: [("SchemaGrammar", 0), ("SchemaImport", 1), ("SchemaInclude", 2),
                                      ("SchemaRedefine", 3), ("ExternalEntity", 4), ("Unknown", 255)],

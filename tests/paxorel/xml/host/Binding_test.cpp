@@ -40,9 +40,6 @@ Array text(const std::u16string& value) { return adopt(hostCreateString_UTF16(va
 // An empty object array of the class, as a host passes for "no object".
 Array none(const char* cls) { return adopt(hostCreateObjectMatrix(0, 0, vorlo::internal::makeInterned(cls))); }
 
-vorlo::VORClass& cls(const std::string& shortName) {
-  return *vorlo::VORClass::getClass("zelmar.io.xml.dom." + shortName);
-}
 Array call(const Array& self, const char* method, std::initializer_list<HostArray*> arguments = {}) {
   HostArray* result = nullptr;
   vorlo::dispatch::callMethod(self.get(), method, 1, &result, static_cast<int>(arguments.size()), arguments.begin());
@@ -50,7 +47,8 @@ Array call(const Array& self, const char* method, std::initializer_list<HostArra
 }
 Array get(const Array& self, const char* property) { return adopt(vorlo::dispatch::getProperty(self.get(), property)); }
 Array parse(const std::u16string& xml) {
-  return call(adopt(vorlo::dispatch::construct(cls("Parser"), 0, nullptr)), "parseString", {text(xml).get()});
+  return call(adopt(vorlo::dispatch::construct(*vorlo::VORClass::getClass("zelmar.io.xml.dom.Parser"), 0, nullptr)),
+              "parseString", {text(xml).get()});
 }
 
 // The native object behind the host object in `array`, as a T, or null.
@@ -153,7 +151,7 @@ TEST_F(HostTest, EveryRecordOfABareObjectFailsCleanly) {
   const std::u16string empty;
   for (const char* name : {"Object", "Node", "Element", "Attr", "CharacterData", "Text", "NodeList", "NamedNodeMap",
                            "ParserConfiguration"}) {
-    vorlo::VORClass& bare = cls(name);
+    vorlo::VORClass& bare = *vorlo::VORClass::getClass(std::string("zelmar.io.xml.dom.") + name);
     Array object = adopt(hostCreateObjectMatrix(1, 1, bare.getInternedFullName()));
     object->adoptObject(0, host.createObject(bare));
     vorlo::VORValue constructed = vorlo::VORValue::ofArray(object.get());
