@@ -52,9 +52,10 @@ def test_value_table(doc, what, call, expected):
     [None, [], [None], dom.Parser(), [dom.Parser()]],
     ids=["None", "empty list", "list of None", "unrelated class", "list of one"],
 )
-def test_objects_that_stand_for_no_node_arrive_as_null(doc, value):
+@pytest.mark.parametrize("method", ["appendChild", "setAttributeNode"])  # a Node, an Attr parameter
+def test_objects_that_stand_for_no_node_arrive_as_null(doc, value, method):
     with pytest.raises(zelmar.Error) as raised:
-        doc.getDocumentElement().appendChild(value)
+        getattr(doc.getDocumentElement(), method)(value)
     assert raised.value.identifier == "paxorel:xml_error:emptyNodeArgument"
 
 
