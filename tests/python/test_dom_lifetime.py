@@ -17,68 +17,44 @@ import zelmar.io.xml.dom as dom
 XML = "<r><a id='1'>one</a><b/></r>"
 
 
-def test_the_same_wrapper_is_the_same_object():
+def test_one_wrapper_is_one_object_and_each_navigation_a_new_one():
     doc = dom.Parser().parseString(XML)
     root = doc.getDocumentElement()
-    child = doc.createElement("c")
+    child, attribute = doc.createElement("c"), doc.createAttribute("k")
     assert root.appendChild(child) is child  # the argument given back
-    assert root.getOwnerDocument() is doc  # a document has one wrapper
-    attribute = doc.createAttribute("k")
     assert root.setAttributeNode(attribute) is attribute and attribute.getOwnerElement().isSameNode(root)
-
-
-def test_each_navigation_is_a_new_object_of_the_same_node():
-    doc = dom.Parser().parseString(XML)
-    root = doc.getDocumentElement()
-    routes = [
-        lambda: doc.getDocumentElement(),
-        lambda: doc.getFirstChild(),
-        lambda: root.getFirstChild().getParentNode(),
-        lambda: root.getChildren()[0].getParentNode(),
-        lambda: root.getFirstChild().getNextSibling().getParentNode(),
-        lambda: doc.getElementsByTagName("r").item(0),
+    assert root.getOwnerDocument() is doc  # a document has one wrapper
+    routes = [  # by a direct method, a Node vector, a method
+        doc.getFirstChild(), root.getFirstChild().getParentNode(), root.getChildren()[0].getParentNode(),
+        doc.getElementsByTagName("r").item(0),
     ]
-    objects = [route() for route in routes]
-    assert len({id(o) for o in objects + [root]}) == len(objects) + 1
-    assert all(o.isSameNode(root) and not o.isSameNode(root.getFirstChild()) for o in objects)
+    assert len({id(o) for o in routes + [root]}) == len(routes) + 1
+    assert all(o.isSameNode(root) and not o.isSameNode(child) for o in routes)
 
 
-def test_nodes_keep_their_document_after_python_lets_it_go():
-    doc = dom.Parser().parseString(XML)
+def test_nodes_and_options_outlive_their_document_and_parser_in_python():
+    parser = dom.Parser()
+    config, doc = parser.Configuration, parser.parseString(XML)
     a = doc.getDocumentElement().getFirstChild()
     gone = weakref.ref(doc)
-    del doc
+    del doc, parser
     gc.collect()
     assert gone() is None
+    config.Comments = False
+    assert config.Comments is False
     assert (a.getTagName(), a.getAttribute("id"), a.getTextContent()) == ("a", "1", "one")
-    document = a.getOwnerDocument()  # a new Python object for the same document
-    assert document.getDocumentElement().getLastChild().getTagName() == "b"
-    a.appendChild(document.createElement("z"))
-    del document
-    gc.collect()
-    assert a.getLastChild().getTagName() == "z"
-
-
-def test_a_document_reached_after_python_let_go_of_it_has_no_entry_until_it_is_asked_for():
-    root = dom.Parser().parseString(XML).getDocumentElement()
-    gc.collect()
-    parent = root.getParentNode()  # the document, kept by its nodes, without a registry entry
+    # Reached by navigation, the document has no registry entry until
+    # getOwnerDocument gives it out again.
+    parent = a.getParentNode().getParentNode()
     assert parent.getNodeName() == "#document" and parent.getNodeType() == 9
     with pytest.raises(zelmar.Error) as raised:
         parent.getDocumentElement()
     assert raised.value.identifier == "std:out_of_range"
-    assert root.getOwnerDocument() is parent  # given out again, with its entry
-    assert parent.getDocumentElement().isSameNode(root)
-
-
-def test_objects_outlive_their_parser_and_configuration():
-    parser = dom.Parser()
-    config = parser.Configuration
-    doc = parser.parseString(XML)
-    del parser
+    assert a.getOwnerDocument() is parent
+    a.appendChild(parent.createElement("z"))
+    del parent
     gc.collect()
-    config.Comments = False
-    assert config.Comments is False and doc.getDocumentElement().getTagName() == "r"
+    assert a.getLastChild().getTagName() == "z" and a.getOwnerDocument().getDocumentElement().getTagName() == "r"
 
 
 def test_interpreter_exit_with_documents_alive():
