@@ -112,10 +112,10 @@ TEST(InternedName, EqualTextsAreOneNameAndTypeStringsAreParsedOnce) {
       {"a.b.Node scalar", TypeSpec::Self, "a.b.Node"},
   };
   for (const auto& c : cases) {
-    const TypeSpec& spec = name(c.type).typeSpec();
-    EXPECT_EQ(spec.kind, c.kind) << c.type;
-    EXPECT_STREQ(spec.className.c_str(), c.className) << c.type;
-    EXPECT_EQ(&spec, &name(c.type).typeSpec());
+    const TypeSpec& parsed = name(c.type).typeSpec();
+    EXPECT_EQ(parsed.kind, c.kind) << c.type;
+    EXPECT_STREQ(parsed.className.c_str(), c.className) << c.type;
+    EXPECT_EQ(&parsed, &name(c.type).typeSpec());
   }
 }
 
