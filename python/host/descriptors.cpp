@@ -167,22 +167,18 @@ PyObject* getOwner(PyObject* self, void* /*closure*/) {
   return Py_NewRef(reinterpret_cast<PyObject*>(memberOf(self).owner));
 }
 
-PyObject* getTrue(PyObject* /*self*/, void* /*closure*/) { return Py_NewRef(Py_True); }
+// Whether abc counts the member as abstract: the placeholders of abstract
+// records only.
+PyObject* getIsAbstract(PyObject* self, void* /*closure*/) {
+  return PyBool_FromLong(Py_TYPE(self) == &AbstractMethodType);
+}
 
 PyGetSetDef memberAttributes[] = {
     {"__name__", getName, nullptr, nullptr, nullptr},
     {"__qualname__", getQualifiedName, nullptr, nullptr, nullptr},
     {"__doc__", getDoc, nullptr, nullptr, nullptr},
     {"__objclass__", getOwner, nullptr, nullptr, nullptr},
-    {nullptr, nullptr, nullptr, nullptr, nullptr},
-};
-
-PyGetSetDef abstractAttributes[] = {
-    {"__name__", getName, nullptr, nullptr, nullptr},
-    {"__qualname__", getQualifiedName, nullptr, nullptr, nullptr},
-    {"__doc__", getDoc, nullptr, nullptr, nullptr},
-    {"__objclass__", getOwner, nullptr, nullptr, nullptr},
-    {"__isabstractmethod__", getTrue, nullptr, nullptr, nullptr},
+    {"__isabstractmethod__", getIsAbstract, nullptr, nullptr, nullptr},
     {nullptr, nullptr, nullptr, nullptr, nullptr},
 };
 
@@ -269,7 +265,7 @@ bool ready(PyTypeObject& type, unsigned long flags, const char* doc) {
   type.tp_doc = doc;
   type.tp_dealloc = deallocDescriptor;
   type.tp_repr = reprDescriptor;
-  if (!type.tp_getset) type.tp_getset = memberAttributes;
+  type.tp_getset = memberAttributes;
   if (flags & Py_TPFLAGS_HAVE_VECTORCALL) {
     type.tp_vectorcall_offset = offsetof(Descriptor, vectorcall);
     type.tp_call = PyVectorcall_Call;
@@ -295,7 +291,6 @@ bool readyDescriptorTypes() noexcept {
   MethodType.tp_descr_get = bindMethod;
   StaticMethodType.tp_descr_get = bindStatic;
   AbstractMethodType.tp_descr_get = bindMethod;
-  AbstractMethodType.tp_getset = abstractAttributes;
   PropertyType.tp_descr_get = getValue;
   PropertyType.tp_descr_set = setValue;
   return ready(MethodType, method, "Methods of a platform class: the records of one name, chosen by the arguments.") &&

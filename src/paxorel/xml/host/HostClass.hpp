@@ -105,23 +105,27 @@ class HostClass {
  private:
   const char* self() const noexcept { return cls_->getInternedFullName().c_str(); }
 
+  /// The signature of the type strings `types`: the output, then the inputs.
+  static vorlo::VORMethodSignaturePtr signatureOf(std::initializer_list<const char*> types) {
+    vorlo::VORMethodSignaturePtr signature;
+    vorlo::factory::impl::Invoker::createSignature("", types, signature);
+    return signature;
+  }
+
   /// `types`: the class made, then the null name of a record without an
   /// object, then the arguments.
   HostClass& addConstructor(Word word, vorlo::factory::InvokerFunction invoker,
                             std::initializer_list<const char*> types) {
-    vorlo::VORMethodSignaturePtr signature;
-    vorlo::factory::impl::Invoker::createSignature("", types, signature);
     cls_->addMethod(new vorlo::factory::impl::VorloConstructor(cls_->getShortName(), word, std::string(),
-                                                               std::move(signature), invoker));
+                                                               signatureOf(types), invoker));
     return *this;
   }
 
   template <class R, class... A>
   void addMethod(const char* name, Word word, vorlo::factory::InvokerFunction invoker,
                  vorlo::factory::impl::MemberSlot member, TypeList<R, A...> /*types*/) {
-    vorlo::VORMethodSignaturePtr signature;
-    vorlo::factory::impl::Invoker::createSignature("", {HostValue<R>::type, self(), HostValue<A>::type...}, signature);
-    cls_->addMethod(new vorlo::factory::impl::MethodImpl(name, word, std::move(signature), invoker, member));
+    cls_->addMethod(new vorlo::factory::impl::MethodImpl(
+        name, word, signatureOf({HostValue<R>::type, self(), HostValue<A>::type...}), invoker, member));
   }
 
   template <auto Member, class... A>

@@ -49,6 +49,13 @@ auto fromSlots(TypeList<A...> types, const vorlo::VORValue* slots) {
   return fromSlots<Value>(types, slots, std::index_sequence_for<A...>());
 }
 
+/// Calls `member` of `object` with the converted arguments.
+template <class T, class Member, class Arguments>
+decltype(auto) callWith(T* object, Member member, Arguments& arguments) {
+  return std::apply([object, member](auto&... argument) { return std::invoke(member, object, argument...); },
+                    arguments);
+}
+
 /// One call of `member` of the object of class T in `self`, with the
 /// arguments in `arguments`: the object is looked up first, then the
 /// arguments are converted, and only then is a missing object refused.
@@ -58,8 +65,7 @@ typename MemberTraits<Member>::Result callMember(Member member, vorlo::VORValue 
   T* object = HostValue<T*>::from(self);
   auto converted = fromSlots<HostValue>(typename MemberTraits<Member>::Arguments(), arguments);
   vorlo::factory::impl::validateSelfPointer(object);
-  return std::apply([object, member](auto&... argument) { return std::invoke(member, object, argument...); },
-                    converted);
+  return callWith(object, member, converted);
 }
 
 /// A method record: inputs[0] holds the object, the arguments follow; a
@@ -112,8 +118,7 @@ void invokeDirect(T* self, int& /*outputCount*/, vorlo::VORValue* outputs, int /
   using Traits = MemberTraits<decltype(Member)>;
   auto converted = fromSlots<DirectArgument>(typename Traits::Arguments(), inputs + 1);
   vorlo::factory::impl::validateSelfPointer(self);
-  const auto* result =
-      std::apply([self](auto&... argument) { return std::invoke(Member, self, argument...); }, converted);
+  const auto* result = callWith(self, Member, converted);
   outputs[0] = result ? HostValue<typename Traits::Result>::to(result)
                       : vorlo::VORValue::ofArray(hostCreateDoubleMatrix(0, 0, HostComplexity::Real));
 }

@@ -1,6 +1,7 @@
 #include <paxorel/xml/host/AbstractClasses.hpp>
 #include <paxorel/xml/host/ClassRecords.hpp>
 #include <paxorel/xml/host/Enumerations.hpp>
+#include <paxorel/xml/host/HostValue.hpp>
 #include <paxorel/xml/host/ModuleEntries.hpp>
 
 #include <vorlo/VORClass.hpp>
@@ -12,9 +13,9 @@ namespace paxorel::xml::mi {
 
 namespace {
 
-constexpr const char* node = "zelmar.io.xml.dom.Node";
-constexpr const char* object = "zelmar.io.xml.dom.Object";
-constexpr const char* characterData = "zelmar.io.xml.dom.CharacterData";
+constexpr const char* node = hostClass<Node>;
+constexpr const char* object = hostClass<XMLObject>;
+constexpr const char* characterData = hostClass<CharacterData>;
 
 // The classes in the order of registration, which host listings show. The
 // descriptions are the ones existing host programs know, misfits included
@@ -23,7 +24,7 @@ constexpr const char* characterData = "zelmar.io.xml.dom.CharacterData";
 void addClasses(vorlo::VORPackage* package) {
   const auto add = [package](vorlo::VORClassInfo* record) { package->addClass(record, 2); };
   add(new VorAttr("Attr", "Defines a comment in a document", {node}));
-  add(new VorCDATASection("CDATASection", "Defines character data in a document", {"zelmar.io.xml.dom.Text"}));
+  add(new VorCDATASection("CDATASection", "Defines character data in a document", {hostClass<Text>}));
   add(new VorCharacterData("CharacterData", "Defines character data in a document", {node}));
   add(new VorComment("Comment", "Defines a comment in a document", {characterData}));
   add(new VorDocument("Document", "Class of XML documents", {node}));
