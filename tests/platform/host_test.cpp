@@ -15,6 +15,7 @@
 #include <limits>
 #include <memory>
 #include <stdexcept>
+#include <tuple>
 
 using testing_support::CppHost;
 using testing_support::HostError;
@@ -62,17 +63,13 @@ TEST(HostArray, EachKindKeepsItsElementsAndNamesItsClass) {
 TEST(HostErrors, RaiseIntoTheAttachedLanguageOrThrowWithoutOne) {
   EXPECT_THROW(hostCallMethod(name("x.Y"), name("z"), VORGetPublicClient(), 0, nullptr, 0, nullptr, false),
                basis::except::Exception<ZELMAR::vorlo::NoHostLanguage>);
-  try {
-    hostRaise(ZELMAR::vorlo::UnknownClass("a.B"));
-  } catch (const basis::except::Exception<ZELMAR::vorlo::UnknownClass>& error) {
-    EXPECT_EQ(error.GetID(), "ZELMAR:vorlo:UnknownClass");
-    EXPECT_NE(std::string(error.what()).find("a.B"), std::string::npos) << error.what();
-  }
+  EXPECT_THROW(hostRaise(ZELMAR::vorlo::UnknownClass("a.B")), basis::except::Exception<ZELMAR::vorlo::UnknownClass>);
   CppHost host;
   try {
     hostRaise(ZELMAR::vorlo::UnknownClass("a.B"));
   } catch (const HostError& error) {
     EXPECT_EQ(error.identifier(), "ZELMAR:vorlo:UnknownClass");
+    EXPECT_NE(std::string(error.what()).find("a.B"), std::string::npos) << error.what();
   }
 }
 
@@ -88,11 +85,8 @@ TEST(HostErrors, NativeExceptionsAreDescribedByTranslatorsFirst) {
     }
   });
   const host::ForeignError special = host::describeException(std::make_exception_ptr(Special()));
-  EXPECT_EQ(special.identifier, "lib:Special");
-  EXPECT_EQ(special.code, 7);
-  const host::ForeignError range = host::describeException(std::make_exception_ptr(std::out_of_range("far")));
-  EXPECT_EQ(range.identifier, "std:out_of_range");
-  EXPECT_EQ(range.message, "far");
-  EXPECT_FALSE(range.code);
+  EXPECT_EQ(std::tuple(special.identifier, special.code), std::tuple("lib:Special", 7));
+  // Others fall through to the platform's own descriptions.
+  EXPECT_EQ(host::describeException(std::make_exception_ptr(std::out_of_range("far"))).message, "far");
   EXPECT_EQ(host::describeException(std::make_exception_ptr(42)).identifier, "unknown:exception");
 }
