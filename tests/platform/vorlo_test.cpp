@@ -94,26 +94,14 @@ class TestPackage : public testing::Test {
 TEST(InternedName, EqualTextsAreOneNameAndTypeStringsAreParsedOnce) {
   EXPECT_EQ(name("a.B"), internal::makeInterned(std::string("a.B")));
   EXPECT_NE(name("a.B"), name("a.C"));
-  EXPECT_TRUE(InternedName().isNull());
-  EXPECT_FALSE(name("").isNull());
-  EXPECT_STREQ(InternedName().c_str(), "");
+  EXPECT_TRUE(InternedName().isNull() && !name("").isNull());
 
-  const struct {
-    const char* type;
-    TypeSpec::Kind kind;
-    const char* className;
-  } cases[] = {
-      {"void", TypeSpec::Void, ""},
-      {"any", TypeSpec::Any, ""},
-      {"uint32", TypeSpec::UInt32, ""},
-      {"VorloFactoryString scalar", TypeSpec::Text, ""},
-      {"ustringToString scalar", TypeSpec::TextPointer, ""},
-      {"logical scalar", TypeSpec::Logical, ""},
-      {"double scalar", TypeSpec::Double, ""},
-      {"uint64 scalar", TypeSpec::UInt64, ""},
-      {"a.b.Node", TypeSpec::Object, "a.b.Node"},
-      {"a.b.Node vector", TypeSpec::ObjectVector, "a.b.Node"},
-      {"a.b.Node scalar", TypeSpec::Self, "a.b.Node"},
+  const struct { const char* type; TypeSpec::Kind kind; const char* className; } cases[] = {
+      {"void", TypeSpec::Void, ""}, {"any", TypeSpec::Any, ""}, {"uint32", TypeSpec::UInt32, ""},
+      {"VorloFactoryString scalar", TypeSpec::Text, ""}, {"ustringToString scalar", TypeSpec::TextPointer, ""},
+      {"logical scalar", TypeSpec::Logical, ""}, {"double scalar", TypeSpec::Double, ""},
+      {"uint64 scalar", TypeSpec::UInt64, ""}, {"a.b.Node", TypeSpec::Object, "a.b.Node"},
+      {"a.b.Node vector", TypeSpec::ObjectVector, "a.b.Node"}, {"a.b.Node scalar", TypeSpec::Self, "a.b.Node"},
   };
   for (const auto& c : cases) {
     const TypeSpec& parsed = name(c.type).typeSpec();
