@@ -205,7 +205,6 @@ struct HandleClass : factory::VorloFactoryClassInfo {
     ++ended;
     if (!item->pinned) delete item;
   }
-  bool isAbstract() const override { return false; }
   const char* getDetailedDescription() const override {
     return detailed ? detailed : VorloFactoryClassInfo::getDetailedDescription();
   }
