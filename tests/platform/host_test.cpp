@@ -15,6 +15,7 @@
 #include <limits>
 #include <memory>
 #include <stdexcept>
+#include <tuple>
 
 using testing_support::CppHost;
 using testing_support::HostError;
@@ -34,15 +35,13 @@ TEST(HostArray, EachKindKeepsItsElementsAndNamesItsClass) {
   EXPECT_EQ(real->real(5), -0.5);
   EXPECT_EQ(hostGetClassName(real.get()), name("double"));
   EXPECT_THROW(real->real(6), std::out_of_range);
-  EXPECT_TRUE(hostIsEmpty(own(hostCreateDoubleMatrix(0, 0, HostComplexity::Real)).get()));
-  EXPECT_TRUE(hostIsEmpty(nullptr));
+  EXPECT_TRUE(hostIsEmpty(own(hostCreateDoubleMatrix(0, 0, HostComplexity::Real)).get()) && hostIsEmpty(nullptr));
 
   const Array count = own(hostCreateNumericScalar(HostClassID::UInt64));
   count->setWord(0, std::numeric_limits<std::uint64_t>::max());
   EXPECT_EQ(count->real(0), 18446744073709551616.0);
   EXPECT_THROW(count->setReal(0, 1), std::invalid_argument);
   EXPECT_EQ(hostGetClassName(count.get()), name("uint64"));
-  EXPECT_EQ(own(hostCreateLogicalScalar(true))->word(0), 1u);
 
   // Text is cut at its first zero unit; lone surrogates pass.
   const char16_t cut[] = {u'a', 0xD800, 0, u'b', 0};
@@ -62,17 +61,13 @@ TEST(HostArray, EachKindKeepsItsElementsAndNamesItsClass) {
 TEST(HostErrors, RaiseIntoTheAttachedLanguageOrThrowWithoutOne) {
   EXPECT_THROW(hostCallMethod(name("x.Y"), name("z"), VORGetPublicClient(), 0, nullptr, 0, nullptr, false),
                basis::except::Exception<ZELMAR::vorlo::NoHostLanguage>);
-  try {
-    hostRaise(ZELMAR::vorlo::UnknownClass("a.B"));
-  } catch (const basis::except::Exception<ZELMAR::vorlo::UnknownClass>& error) {
-    EXPECT_EQ(error.GetID(), "ZELMAR:vorlo:UnknownClass");
-    EXPECT_NE(std::string(error.what()).find("a.B"), std::string::npos) << error.what();
-  }
+  EXPECT_THROW(hostRaise(ZELMAR::vorlo::UnknownClass("a.B")), basis::except::Exception<ZELMAR::vorlo::UnknownClass>);
   CppHost host;
   try {
     hostRaise(ZELMAR::vorlo::UnknownClass("a.B"));
   } catch (const HostError& error) {
     EXPECT_EQ(error.identifier(), "ZELMAR:vorlo:UnknownClass");
+    EXPECT_NE(std::string(error.what()).find("a.B"), std::string::npos) << error.what();
   }
 }
 
@@ -88,11 +83,8 @@ TEST(HostErrors, NativeExceptionsAreDescribedByTranslatorsFirst) {
     }
   });
   const host::ForeignError special = host::describeException(std::make_exception_ptr(Special()));
-  EXPECT_EQ(special.identifier, "lib:Special");
-  EXPECT_EQ(special.code, 7);
-  const host::ForeignError range = host::describeException(std::make_exception_ptr(std::out_of_range("far")));
-  EXPECT_EQ(range.identifier, "std:out_of_range");
-  EXPECT_EQ(range.message, "far");
-  EXPECT_FALSE(range.code);
+  EXPECT_EQ(std::tuple(special.identifier, special.code), std::tuple("lib:Special", 7));
+  // Others fall through to the platform's own descriptions.
+  EXPECT_EQ(host::describeException(std::make_exception_ptr(std::out_of_range("far"))).message, "far");
   EXPECT_EQ(host::describeException(std::make_exception_ptr(42)).identifier, "unknown:exception");
 }

@@ -1,18 +1,10 @@
-// A small package of the class-object system, made for the tests of the
-// platform (through the C++ host) and of the Python host: shapes on canvases,
-// registered through the platform's records directly, with every kind of
-// record and value that a package can have.
-//
-//   Item      handle, the base, without constructors; live/ended counters
-//   Shape     handle on Item and the unregistered zelmar.testing.mixin.Tagged,
-//             without constructors: overloads, an enumeration, a direct method, a hidden method,
-//             read-only, settable, hidden and typed properties
-//   Circle    handle on Shape with public constructors and its own getArea
-//   Square    handle on Shape with a 0x102 constructor only
-//   Canvas    handle on Item: object, vector and "any" results, statics (the
-//             value conversions among them), errors, calls back into the host
-//   Painter   abstract: paint(Shape) -> logical, title() -> string*
-//   Color     enumeration over uint32: Red 0, Green 1, Blue 255
+// The package "zelmar.testing" for the platform's tests (through the C++ host)
+// and the Python host's: shapes on canvases, with every kind of record and
+// value a package can have. Item (the base, counting live and ended objects), Shape
+// (overloads, direct, hidden, typed properties), Circle (constructors),
+// Square (a 0x102 constructor only), Canvas (object, vector and "any" results,
+// statics, errors, calls into the host), Painter (abstract), Color (an
+// enumeration over uint32: Red 0, Green 1, Blue 255).
 
 #include <basis/except/Exception.hpp>
 #include <host/HostArrayProxy.hpp>
@@ -107,6 +99,11 @@ T& self(VORValue slot) {
   return *object;
 }
 ShapeData& shape(VORValue slot) { return *self<Shape>(slot).data; }
+void resize(ShapeData& data, double across, double down) {
+  data.width *= across;
+  data.height *= down;
+}
+VORValue area(VORValue slot) { return VORValue::ofDouble(shape(slot).width * shape(slot).height); }
 
 VORValue announce(const Item* item, const char* declared) {
   auto& registry = factory::basic::BindingRegistry::instance();
@@ -208,7 +205,6 @@ struct HandleClass : factory::VorloFactoryClassInfo {
     ++ended;
     if (!item->pinned) delete item;
   }
-  bool isAbstract() const override { return false; }
   const char* getDetailedDescription() const override {
     return detailed ? detailed : VorloFactoryClassInfo::getDetailedDescription();
   }
@@ -227,29 +223,23 @@ void initializeShape(VORClass* cls) {
   cls->addSuperclass(makeInterned("zelmar.testing.Item"), 1, 0, 1);
   cls->addSuperclass(makeInterned("zelmar.testing.mixin.Tagged"), 1, 0, 1);
   const char* S = "zelmar.testing.Shape";
-  method(cls, "getArea", 0, {"double scalar", S}, [](VORValue* out, const VORValue* in) {
-    out[0] = VORValue::ofDouble(shape(in[0]).width * shape(in[0]).height);
-  });
+  method(cls, "getArea", 0, {"double scalar", S}, [](VORValue* out, const VORValue* in) { out[0] = area(in[0]); });
   // Overloads: by count, and by type at the same count.
-  method(cls, "scale", 0, {"void", S, "double scalar"}, [](VORValue*, const VORValue* in) {
-    shape(in[0]).width *= in[1].real();
-    shape(in[0]).height *= in[1].real();
-  });
+  method(cls, "scale", 0, {"void", S, "double scalar"},
+         [](VORValue*, const VORValue* in) { resize(shape(in[0]), in[1].real(), in[1].real()); });
   method(cls, "scale", 0, {"void", S, S}, [](VORValue*, const VORValue* in) {
     const Shape* other = nativeOf<Shape>(in[1]);
     shape(in[0]).width = other ? other->data->width : 0;
     shape(in[0]).height = other ? other->data->height : 0;
   });
-  method(cls, "scale", 0, {"void", S, "double scalar", "double scalar"}, [](VORValue*, const VORValue* in) {
-    shape(in[0]).width *= in[1].real();
-    shape(in[0]).height *= in[2].real();
-  });
-  method(cls, "getColor", 0, {"zelmar.testing.Color", S},
-         [](VORValue* out, const VORValue* in) { out[0] = color(shape(in[0]).color); });
+  method(cls, "scale", 0, {"void", S, "double scalar", "double scalar"},
+         [](VORValue*, const VORValue* in) { resize(shape(in[0]), in[1].real(), in[2].real()); });
   method(cls, "isSame", 0, {"logical scalar", S, S}, [](VORValue* out, const VORValue* in) {
     const Shape* other = nativeOf<Shape>(in[1]);
     out[0] = VORValue::ofLogical(other && other->data == self<Shape>(in[0]).data);
   });
+  method(cls, "getColor", 0, {"zelmar.testing.Color", S},
+         [](VORValue* out, const VORValue* in) { out[0] = color(shape(in[0]).color); });
   method(cls, "describe", 0, {"VorloFactoryString scalar", S, "logical scalar"}, [](VORValue* out, const VORValue* in) {
     out[0] = text(in[1].logical() ? (shape(in[0]).round ? u"a round shape" : u"a square shape") : u"a shape");
   });
@@ -269,8 +259,7 @@ void initializeShape(VORClass* cls) {
                                      : VORValue::ofArray(hostCreateDoubleMatrix(0, 0, HostComplexity::Real));
       },
       true);
-  property(cls, "Area", 0, "double scalar",
-           [](VORValue s) { return VORValue::ofDouble(shape(s).width * shape(s).height); });
+  property(cls, "Area", 0, "double scalar", area);
   property(
       cls, "Color", 0, "zelmar.testing.Color", [](VORValue s) { return color(shape(s).color); },
       [](VORValue s, VORValue value) { shape(s).color = static_cast<std::uint32_t>(value.array()->word(0)); });
@@ -278,26 +267,29 @@ void initializeShape(VORClass* cls) {
       cls, "Secret", VORPropertyInfo::Hidden, "logical scalar",
       [](VORValue s) { return VORValue::ofLogical(shape(s).secret); },
       [](VORValue s, VORValue value) { shape(s).secret = value.logical(); });
-  const auto* textType = VORTypeRepository::getType(makeInterned("ustringToString scalar"));
-  const auto* wordType = VORTypeRepository::getType(makeInterned("uint64 scalar"));
-  cls->addProperty(new VORPropCPPT<Shape, const basis::ustring*>(textType, makeInterned("Label"), makeInterned(""), 2,
-                                                                 cls, &Shape::label, &Shape::setLabel));
-  cls->addProperty(new VORPropCPPT<Shape, std::uint64_t>(wordType, makeInterned("Serial"), makeInterned(""), 2, cls,
-                                                         &Shape::serial, &Shape::setSerial));
+  const auto typed = [cls](const char* type, const char* name, auto get, auto set) {
+    cls->addProperty(new VORPropCPPT(VORTypeRepository::getType(makeInterned(type)), makeInterned(name),
+                                     makeInterned(""), 2, cls, get, set));
+  };
+  typed("ustringToString scalar", "Label", &Shape::label, &Shape::setLabel);
+  typed("uint64 scalar", "Serial", &Shape::serial, &Shape::setSerial);
 }
 
-void newCircle(double diameter, VORValue* out) {
+// A new wrapper of new shape data of the given size.
+Shape* newShape(bool round, double size, Canvas* canvas = nullptr) {
   auto data = std::make_shared<ShapeData>();
-  data->round = true;
-  data->width = data->height = diameter;
-  bindNew(new Shape(data), out);
+  data->round = round;
+  data->width = data->height = size;
+  data->canvas = canvas;
+  return new Shape(data);
 }
 
 void initializeCircle(VORClass* cls) {
   cls->addSuperclass(makeInterned("zelmar.testing.Shape"), 1, 0, 1);
-  constructor(cls, 0, {"zelmar.testing.Circle", nullptr}, [](VORValue* out, const VORValue*) { newCircle(1, out); });
+  constructor(cls, 0, {"zelmar.testing.Circle", nullptr},
+              [](VORValue* out, const VORValue*) { bindNew(newShape(true, 1), out); });
   constructor(cls, 0, {"zelmar.testing.Circle", nullptr, "double scalar"},
-              [](VORValue* out, const VORValue* in) { newCircle(in[1].real(), out); });
+              [](VORValue* out, const VORValue* in) { bindNew(newShape(true, in[1].real()), out); });
   method(cls, "getArea", 0, {"double scalar", "zelmar.testing.Circle"}, [](VORValue* out, const VORValue* in) {
     out[0] = VORValue::ofDouble(M_PI * shape(in[0]).width * shape(in[0]).width / 4);
   });
@@ -306,7 +298,7 @@ void initializeCircle(VORClass* cls) {
 void initializeSquare(VORClass* cls) {
   cls->addSuperclass(makeInterned("zelmar.testing.Shape"), 1, 0, 1);
   constructor(cls, 0x102, {"zelmar.testing.Square", nullptr},
-              [](VORValue* out, const VORValue*) { bindNew(new Shape(std::make_shared<ShapeData>()), out); });
+              [](VORValue* out, const VORValue*) { bindNew(newShape(false, 1), out); });
 }
 
 // A new wrapper for each shape, in a 1-by-n array of their common class.
@@ -344,11 +336,9 @@ void initializeCanvas(VORClass* cls) {
   });
   method(cls, "addSquare", 0, {"zelmar.testing.Square", C, "double scalar"}, [](VORValue* out, const VORValue* in) {
     Canvas& canvas = self<Canvas>(in[0]);
-    auto data = std::make_shared<ShapeData>();
-    data->width = data->height = in[1].real();
-    data->canvas = &canvas;
-    canvas.shapes.push_back(data);
-    out[0] = announce(new Shape(data), "zelmar.testing.Square");
+    Shape* square = newShape(false, in[1].real(), &canvas);
+    canvas.shapes.push_back(square->data);
+    out[0] = announce(square, "zelmar.testing.Square");
   });
   method(cls, "first", 0, {S, C}, [](VORValue* out, const VORValue* in) {
     Canvas& canvas = self<Canvas>(in[0]);

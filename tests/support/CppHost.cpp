@@ -8,17 +8,9 @@
 
 namespace testing_support {
 
-namespace {
-
-std::string identifierOf(const basis::except::IUserException& error) {
-  const auto* withId = dynamic_cast<const basis::except::IMsgIDException*>(&error);
-  return withId ? withId->GetID() : std::string();
+HostError::HostError(const basis::except::IUserException& error) : std::runtime_error(error.what()) {
+  if (const auto* withId = dynamic_cast<const basis::except::IMsgIDException*>(&error)) identifier_ = withId->GetID();
 }
-
-}  // namespace
-
-HostError::HostError(const basis::except::IUserException& error)
-    : std::runtime_error(error.what()), identifier_(identifierOf(error)) {}
 
 struct CppHost::Object : vorlo::VORInterface {
   Object(vorlo::VORClass& cls, std::string ownClass, std::map<std::string, Method> ownMethods)
@@ -73,7 +65,6 @@ bool CppHost::isA(const vorlo::VORInterface& object, vorlo::InternedName cls) {
 void CppHost::callMethod(vorlo::InternedName /*cls*/, vorlo::InternedName method, int outputCount,
                          HostArray** outputs, int inputCount, HostArray* const* inputs) {
   auto* object = static_cast<Object*>(hostGetArrayElement(inputs[0], 0));
-  if (!object) throw std::invalid_argument("no host object to call " + method.str() + " on");
   if (const auto own = object->methods.find(method.str()); own != object->methods.end()) {
     own->second(outputCount, outputs, inputCount, inputs);
     return;

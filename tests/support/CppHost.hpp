@@ -31,8 +31,7 @@ class HostError : public std::runtime_error {
 /// host class of its own is a platform class with methods added in C++.
 class CppHost : public host::Language {
  public:
-  /// A method of a host class of C++: given the inputs (inputs[0] holds the
-  /// object), it puts its result into outputs[0].
+  /// A method of a host class of C++: inputs[0] holds the object; the result goes into outputs[0].
   using Method = std::function<void(int outputCount, HostArray** outputs, int inputCount, HostArray* const* inputs)>;
 
   CppHost();

@@ -1,8 +1,5 @@
-// What the binding shows below the Python face, through a C++ host: the
-// module entries, when a missing object is refused, the host arrays that stand
-// for no object and for node vectors, text cut at a zero unit, objects made by
-// a bare constructor, what the destruction hook does to the registry, and how
-// Xerces exceptions are described. (The records are compared from Python.)
+// What the binding shows below the Python face, through a C++ host. (The
+// records themselves are compared from Python.)
 #include <paxorel/xml/host/HostValue.hpp>
 #include <paxorel/xml/host/ModuleEntries.hpp>
 
@@ -86,9 +83,8 @@ vorlo::VORValue defaultSlot(const vorlo::TypeSpec& type, std::vector<Array>& kee
   }
 }
 
-const char* const invalidObject = "ZELMAR:vorlo:InvalidObject";
+const char *const invalidObject = "ZELMAR:vorlo:InvalidObject", *const emptyNode = "paxorel:xml_error:emptyNodeArgument";
 const char* const missingText = "ZELMAR:string:MissingNotSupported";
-const char* const emptyNode = "paxorel:xml_error:emptyNodeArgument";
 
 // The package loaded as a host loads it, and a C++ host attached for each test.
 class HostTest : public ::testing::Test {
