@@ -248,16 +248,3 @@ TEST(Release, TheNamespaceFixUpOfNormalizeDocumentKeepsTheOldDeclaration) {
   EXPECT_EQ(old->getNodeValue(), u"urn:a");
   EXPECT_FALSE(own(document->createTextNode(u"t"))->isSameNode(old.get()));
 }
-
-TEST(Release, ReadOnlyAttributesRefuseAsBefore) {
-  const auto document = parseString(u"<!DOCTYPE r [<!ENTITY e '<x a=\"1\"/>'>]><r>&e;</r>");
-  const auto x = own<Element>(own(own(document->getDocumentElement())->getFirstChild())->getFirstChild());
-  const auto a = own<Attr>(x->getAttributeNode(u"a"));
-  const auto aText = own(a->getFirstChild());  // a wrapper the guard would keep
-  EXPECT_XML_ERROR(x->setAttribute(u"a", u"2"), "elemSetAttrReadOnlyError", u"a", u"x");
-  EXPECT_XML_ERROR(x->removeAttribute(u"a"), "elemRemoveAttrError", u"a", u"x");
-  EXPECT_XML_ERROR(x->removeAttributeNS(u"", u"a"), "elemRemoveAttrError", u"a", u"x");
-  EXPECT_XML_ERROR(a->setTextContent(u"2"), "nodeSetTextContentNoModError", u"2");
-  EXPECT_THROW(a->setValue(u"2"), xercesc::DOMException);
-  EXPECT_EQ(a->getValue() + aText->getNodeValue(), u"11");
-}
