@@ -17,27 +17,18 @@
 #include <stdexcept>
 #include <tuple>
 
-using testing_support::CppHost;
-using testing_support::HostError;
-
-namespace {
-
-using Array = std::unique_ptr<HostArray, decltype(&hostDestroyArray)>;
-Array own(HostArray* array) { return Array(array, &hostDestroyArray); }
-vorlo::InternedName name(const char* text) { return vorlo::internal::makeInterned(text); }
-
-}  // namespace
+using namespace testing_support;
 
 TEST(HostArray, EachKindKeepsItsElementsAndNamesItsClass) {
-  const Array real = own(hostCreateDoubleMatrix(2, 3, HostComplexity::Real));
+  const Array real = adopt(hostCreateDoubleMatrix(2, 3, HostComplexity::Real));
   EXPECT_EQ(real->size(), 6u);
   real->setReal(5, -0.5);
   EXPECT_EQ(real->real(5), -0.5);
   EXPECT_EQ(hostGetClassName(real.get()), name("double"));
   EXPECT_THROW(real->real(6), std::out_of_range);
-  EXPECT_TRUE(hostIsEmpty(own(hostCreateDoubleMatrix(0, 0, HostComplexity::Real)).get()) && hostIsEmpty(nullptr));
+  EXPECT_TRUE(hostIsEmpty(adopt(hostCreateDoubleMatrix(0, 0, HostComplexity::Real)).get()) && hostIsEmpty(nullptr));
 
-  const Array count = own(hostCreateNumericScalar(HostClassID::UInt64));
+  const Array count = adopt(hostCreateNumericScalar(HostClassID::UInt64));
   count->setWord(0, std::numeric_limits<std::uint64_t>::max());
   EXPECT_EQ(count->real(0), 18446744073709551616.0);
   EXPECT_THROW(count->setReal(0, 1), std::invalid_argument);
@@ -45,12 +36,12 @@ TEST(HostArray, EachKindKeepsItsElementsAndNamesItsClass) {
 
   // Text is cut at its first zero unit; lone surrogates pass.
   const char16_t cut[] = {u'a', 0xD800, 0, u'b', 0};
-  const Array text = own(hostCreateString_UTF16(cut));
+  const Array text = adopt(hostCreateString_UTF16(cut));
   EXPECT_EQ(text->columns(), 2u);
   EXPECT_EQ(hostGetString(text.get())->text(), (basis::ustring{u'a', 0xD800}));
-  EXPECT_EQ(hostGetString(own(hostCreateString_UTF16(nullptr)).get())->text(), u"");
+  EXPECT_EQ(hostGetString(adopt(hostCreateString_UTF16(nullptr)).get())->text(), u"");
 
-  const Array strings = own(hostCreateStringArray(1, 2));
+  const Array strings = adopt(hostCreateStringArray(1, 2));
   EXPECT_TRUE(hostGetString(strings.get(), 1)->isMissing());
   hostGetString(strings.get(), 1)->setText(u"");
   EXPECT_FALSE(hostGetString(strings.get(), 1)->isMissing()) << "the empty text is not missing";

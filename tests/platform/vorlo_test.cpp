@@ -23,39 +23,19 @@
 extern "C" void ModuleInitialize_zelmar_testpackage();
 
 using namespace vorlo;
-using testing_support::CppHost;
-using testing_support::HostError;
+using namespace testing_support;
 
 namespace {
 
-using Array = std::unique_ptr<HostArray, decltype(&hostDestroyArray)>;
-Array own(HostArray* array) { return Array(array, &hostDestroyArray); }
-InternedName name(const char* text) { return internal::makeInterned(text); }
 VORClass& cls(const std::string& shortName) { return *VORClass::getClass("zelmar.testing." + shortName); }
 VORInterface* objectOf(const Array& array) { return hostGetArrayElement(array.get(), 0); }
 
 Array number(double value) {
-  Array array = own(hostCreateNumericScalar(HostClassID::Double));
+  Array array = adopt(hostCreateNumericScalar(HostClassID::Double));
   array->setReal(0, value);
   return array;
 }
-Array text(const char16_t* value) { return own(hostCreateString_UTF16(value)); }
-// "class RxC" of a host array, and " mixed" for a heterogeneous one.
-std::string shapeOf(const Array& array) {
-  return hostGetClassName(array.get()).str() + " " + std::to_string(array->rows()) + "x" +
-         std::to_string(array->columns()) + (array->isHeterogeneous() ? " mixed" : "");
-}
-
-/// The identifier of the error that `run` raises into the host.
-template <class Run>
-std::string raised(Run&& run) {
-  try {
-    run();
-  } catch (const HostError& error) {
-    return error.identifier();
-  }
-  return "(nothing raised)";
-}
+Array text(const char16_t* value) { return adopt(hostCreateString_UTF16(value)); }
 
 struct EmptyClass : factory::VorloFactoryClassInfo {
   using VorloFactoryClassInfo::VorloFactoryClassInfo;
@@ -71,17 +51,17 @@ class TestPackage : public testing::Test {
   ~TestPackage() override { EXPECT_EQ(host.liveObjects(), 0) << "every host object let go"; }
 
   static Array construct(const std::string& shortName, std::vector<HostArray*> arguments = {}) {
-    return own(dispatch::construct(cls(shortName), static_cast<int>(arguments.size()), arguments.data()));
+    return adopt(dispatch::construct(cls(shortName), static_cast<int>(arguments.size()), arguments.data()));
   }
   static Array call(const Array& self, const char* method, std::vector<HostArray*> arguments = {}) {
     HostArray* result = nullptr;
     dispatch::callMethod(self.get(), method, 1, &result, static_cast<int>(arguments.size()), arguments.data());
-    return own(result);
+    return adopt(result);
   }
   static Array callStatic(const char* shortName, const char* method, std::vector<HostArray*> arguments = {}) {
     HostArray* result = nullptr;
     dispatch::callStatic(cls(shortName), method, 1, &result, static_cast<int>(arguments.size()), arguments.data());
-    return own(result);
+    return adopt(result);
   }
   static double area(const Array& shape) { return call(shape, "getArea")->real(0); }
   static double live() { return callStatic("Item", "live")->real(0); }
@@ -163,7 +143,7 @@ TEST_F(TestPackage, CallsAndConstructionChooseAmongOverloadsByCountAndTypeInTheN
   const Array square = call(canvas, "addSquare", {number(2).get()});
   const Array circle = construct("Circle", {number(3).get()});
   call(square, "scale", {number(2).get()});
-  call(square, "scale", {own(hostCreateLogicalScalar(true)).get()});  // a logical is a number too
+  call(square, "scale", {adopt(hostCreateLogicalScalar(true)).get()});  // a logical is a number too
   call(square, "scale", {number(0.5).get(), number(2).get()});
   EXPECT_EQ(area(square), 16);
   call(square, "scale", {circle.get()});  // the same count as scale(double): the type decides
@@ -174,7 +154,7 @@ TEST_F(TestPackage, CallsAndConstructionChooseAmongOverloadsByCountAndTypeInTheN
 
   EXPECT_EQ(callStatic("Canvas", "origin", {number(2).get()})->real(0), -2);
   // Text for a text pointer: missing stays missing.
-  EXPECT_EQ(callStatic("Canvas", "length", {own(hostCreateStringArray(1, 1)).get()})->real(0), -1);
+  EXPECT_EQ(callStatic("Canvas", "length", {adopt(hostCreateStringArray(1, 1)).get()})->real(0), -1);
 
   for (const char* refused : {"Square", "Item", "Painter"}) {  // hidden constructor, none, abstract
     EXPECT_EQ(raised([&] { construct(refused); }), "ZELMAR:vorlo:NotConstructible") << refused;
@@ -184,17 +164,17 @@ TEST_F(TestPackage, CallsAndConstructionChooseAmongOverloadsByCountAndTypeInTheN
 
 TEST_F(TestPackage, PropertiesReadAndWriteByTheirTypes) {
   const Array circle = construct("Circle", {number(2).get()});
-  const auto get = [&circle](const char* property) { return own(dispatch::getProperty(circle.get(), property)); };
+  const auto get = [&circle](const char* property) { return adopt(dispatch::getProperty(circle.get(), property)); };
   const auto set = [&circle](const char* property, const Array& value) {
     dispatch::setProperty(circle.get(), property, value.get());
   };
   EXPECT_EQ(get("Area")->real(0), 4);
-  set("Secret", own(hostCreateLogicalScalar(true)));
+  set("Secret", adopt(hostCreateLogicalScalar(true)));
   EXPECT_EQ(get("Secret")->word(0), 1u) << "a hidden property stays usable";
   EXPECT_TRUE(hostGetString(get("Label").get())->isMissing()) << "a typed text property of a null pointer";
   set("Label", text(u"new"));
   EXPECT_EQ(hostGetString(get("Label").get())->text(), u"new");
-  const Array word = own(hostCreateNumericScalar(HostClassID::UInt64));
+  const Array word = adopt(hostCreateNumericScalar(HostClassID::UInt64));
   word->setWord(0, std::numeric_limits<std::uint64_t>::max());
   set("Serial", word);
   EXPECT_EQ(get("Serial")->word(0), std::numeric_limits<std::uint64_t>::max());
@@ -210,7 +190,7 @@ TEST_F(TestPackage, PropertiesReadAndWriteByTheirTypes) {
 TEST_F(TestPackage, OneNativeObjectIsOneHostObjectWhileBothLive) {
   struct Unknown : factory::full::Wrappable {
   } unknown;
-  EXPECT_EQ(raised([&] { own(factory::basic::BindingRegistry::instance().announce(&unknown, name("x.Unknown"))); }),
+  EXPECT_EQ(raised([&] { adopt(factory::basic::BindingRegistry::instance().announce(&unknown, name("x.Unknown"))); }),
             "ZELMAR:vorlo:UnknownClass");
 
   const double before = live();
@@ -236,7 +216,7 @@ TEST_F(TestPackage, OneNativeObjectIsOneHostObjectWhileBothLive) {
   call(canvas, "dropFirst");
   EXPECT_EQ(objectOf(first)->getNativeInstance(name("zelmar.testing.Circle")), nullptr);
   EXPECT_EQ(raised([&] { area(first); }), "ZELMAR:vorlo:InvalidObject");
-  EXPECT_EQ(raised([] { area(own(hostCreateObjectMatrix(0, 0, name("zelmar.testing.Shape")))); }),
+  EXPECT_EQ(raised([] { area(adopt(hostCreateObjectMatrix(0, 0, name("zelmar.testing.Shape")))); }),
             "ZELMAR:vorlo:InvalidObject")
       << "no object at all";
 }
@@ -249,7 +229,7 @@ TEST_F(TestPackage, EnumerationMembersAreValuesOfTheUInt32Constructor) {
   EXPECT_EQ(value->word(0), 255u);
   EXPECT_EQ(blue->getValue(), value) << "made once, kept by the record";
 
-  const Array members = own(hostCreateEnumerationMatrix(1, 2, color.getInternedFullName()));
+  const Array members = adopt(hostCreateEnumerationMatrix(1, 2, color.getInternedFullName()));
   hostSetEnumerationElement(members.get(), 1, name("Green"));
   EXPECT_EQ(members->word(0), 0u);
   EXPECT_EQ(members->word(1), 1u);
@@ -261,7 +241,7 @@ TEST_F(TestPackage, ObjectArraysCountTheirObjectsAndSettleTheirClass) {
   const Array canvas = construct("Canvas");
   const Array circle = construct("Circle");
   const Array square = call(canvas, "addSquare", {number(1).get()});
-  const Array pair = own(hostCreateObjectMatrix(1, 2, name("zelmar.testing.Nothing")));
+  const Array pair = adopt(hostCreateObjectMatrix(1, 2, name("zelmar.testing.Nothing")));
   hostSetArrayElement(pair.get(), 0, objectOf(circle));
   EXPECT_EQ(CppHost::referencesOf(circle.get()), 2);
   EXPECT_EQ(hostGetArrayElement(pair.get(), 1), nullptr);
@@ -279,7 +259,7 @@ TEST_F(TestPackage, ObjectArraysCountTheirObjectsAndSettleTheirClass) {
   hostSetArrayElement(pair.get(), 1, objectOf(square));
   hostSetClassOfHeterogeneousArray(pair.get());
   EXPECT_EQ(shapeOf(pair), "zelmar.testing.Shape 1x2 mixed");
-  const Array none = own(hostCreateObjectMatrix(1, 0, name("zelmar.testing.Item")));
+  const Array none = adopt(hostCreateObjectMatrix(1, 0, name("zelmar.testing.Item")));
   hostSetClassOfHeterogeneousArray(none.get());
   EXPECT_EQ(shapeOf(none), "zelmar.testing.Item 1x0 mixed") << "no element: the class stays";
 }
@@ -287,7 +267,7 @@ TEST_F(TestPackage, ObjectArraysCountTheirObjectsAndSettleTheirClass) {
 TEST_F(TestPackage, NativeCodeCallsMethodsOfHostObjects) {
   std::vector<std::string> painted;
   const Array painter =
-      own(host.makeDerived("zelmar.testing.Painter", "tests.Painter",
+      adopt(host.makeDerived("zelmar.testing.Painter", "tests.Painter",
                            {{"paint",
                              [&painted](int, HostArray** outputs, int inputCount, HostArray* const* inputs) {
                                EXPECT_EQ(inputCount, 2);

@@ -6,6 +6,7 @@
 #include <basis/except/IUserException.hpp>
 #include <host/HostArray.hpp>
 #include <host/Language.hpp>
+#include <host/hostArrays.hpp>
 #include <vorlo/VORInterface.hpp>
 
 #include <functional>
@@ -58,5 +59,28 @@ class CppHost : public host::Language {
   struct Object;
   int live_ = 0;
 };
+
+/// A host array that goes with its scope (before the host does).
+using Array = std::unique_ptr<HostArray, decltype(&hostDestroyArray)>;
+inline Array adopt(HostArray* array) { return {array, &hostDestroyArray}; }
+
+inline vorlo::InternedName name(const char* text) { return vorlo::internal::makeInterned(text); }
+
+/// "class RxC" of a host array, and " mixed" for a heterogeneous one.
+inline std::string shapeOf(const Array& array) {
+  return hostGetClassName(array.get()).str() + " " + std::to_string(array->rows()) + "x" +
+         std::to_string(array->columns()) + (array->isHeterogeneous() ? " mixed" : "");
+}
+
+/// The identifier of the error that `run` raises into the host, or "nothing".
+template <class Run>
+std::string raised(Run&& run) {
+  try {
+    run();
+  } catch (const HostError& error) {
+    return error.identifier();
+  }
+  return "nothing";
+}
 
 }  // namespace testing_support

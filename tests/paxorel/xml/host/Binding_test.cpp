@@ -22,7 +22,6 @@
 #include <dlfcn.h>
 
 #include <algorithm>
-#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <string>
@@ -31,12 +30,9 @@ using namespace testing_support;
 
 namespace {
 
-// A host array, destroyed with the test's scope (before the host goes).
-using Array = std::unique_ptr<HostArray, decltype(&hostDestroyArray)>;
-Array adopt(HostArray* array) { return Array(array, &hostDestroyArray); }
 Array text(const std::u16string& value) { return adopt(hostCreateString_UTF16(value.c_str())); }
 // An empty object array of the class, as a host passes for "no object".
-Array none(const char* cls) { return adopt(hostCreateObjectMatrix(0, 0, vorlo::internal::makeInterned(cls))); }
+Array none(const char* cls) { return adopt(hostCreateObjectMatrix(0, 0, name(cls))); }
 
 Array call(const Array& self, const char* method, std::initializer_list<HostArray*> arguments = {}) {
   HostArray* result = nullptr;
@@ -54,22 +50,6 @@ template <class T>
 T* nativeOf(const Array& array) {
   const vorlo::VORInterface* object = hostGetArrayElement(array.get(), 0);
   return object ? dynamic_cast<T*>(object->getNativeInstance(hostGetClassName(array.get()))) : nullptr;
-}
-
-// The identifier of the error that `action` raises into the host, or "nothing".
-std::string raised(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const HostError& error) {
-    return error.identifier();
-  }
-  return "nothing";
-}
-
-// "class RxC" of a host array, and " mixed" for a heterogeneous one.
-std::string shapeOf(const Array& array) {
-  return hostGetClassName(array.get()).str() + " " + std::to_string(array->rows()) + "x" +
-         std::to_string(array->columns()) + (array->isHeterogeneous() ? " mixed" : "");
 }
 
 // A harmless value of `type` for a slot, kept alive by `keep`.
