@@ -2,8 +2,11 @@
 (./dev test puts build/<preset>/python on the path) and load the native test
 package built beside it, tests/python/libzelmar_testpackage.so."""
 
+import math
 import os
+import subprocess
 import sys
+import textwrap
 import types
 
 import pytest
@@ -43,6 +46,22 @@ def canvas(t):
     canvas.add(t.Circle(2.0))
     canvas.addSquare(3.0)
     return canvas
+
+
+# Values that no record takes as they are, or only just.
+AWKWARD = [
+    None, True, 0, -1, 2**31, 2**53 + 1, 2**64, -(2**70), 10**400, math.nan, math.inf, -math.inf, 0.5,
+    "", "\0", "a\0b", "\ud800", "\U0001F600", b"bytes", [], [None], (), {}, object(), zelmar.uint32(3), len,
+]
+
+
+def run_python(program):
+    """Runs `program` in a new interpreter that finds what this one finds:
+    the exit code, the output and the error output."""
+    environment = dict(os.environ, PYTHONPATH=os.pathsep.join(sys.path))
+    finished = subprocess.run([sys.executable, "-c", textwrap.dedent(program)], capture_output=True, text=True,
+                              env=environment, timeout=60)
+    return finished.returncode, finished.stdout, finished.stderr
 
 
 def poke(target, name, arguments, expected):

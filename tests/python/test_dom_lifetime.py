@@ -3,16 +3,13 @@ one per navigation; nodes that outlive every Python reference to their
 document; interpreter exit with documents alive."""
 
 import gc
-import os
-import subprocess
-import sys
-import textwrap
 import weakref
 
 import pytest
 
 import zelmar
 import zelmar.io.xml.dom as dom
+from conftest import run_python
 
 XML = "<r><a id='1'>one</a><b/></r>"
 
@@ -58,8 +55,7 @@ def test_nodes_and_options_outlive_their_document_and_parser_in_python():
 
 
 def test_interpreter_exit_with_documents_alive():
-    program = textwrap.dedent(
-        """
+    assert run_python("""
         import zelmar.io.xml.dom as dom
         parser = dom.Parser()
         doc = parser.parseString("<r><a>t</a></r>")
@@ -76,9 +72,4 @@ def test_interpreter_exit_with_documents_alive():
         import gc
         gc.disable()
         print(text.getData(), orphan.getTagName())
-        """
-    )
-    environment = dict(os.environ, PYTHONPATH=os.pathsep.join(sys.path))
-    finished = subprocess.run([sys.executable, "-c", program], capture_output=True, text=True, env=environment,
-                              timeout=60)
-    assert (finished.returncode, finished.stdout, finished.stderr) == (0, "t e\n", "")
+        """) == (0, "t e\n", "")

@@ -3,7 +3,6 @@ values on every method and property, and random sequences of tree changes
 and drops, after each of which every object still held reads its own node."""
 
 import gc
-import math
 import os
 
 import pytest
@@ -12,14 +11,10 @@ from hypothesis.stateful import RuleBasedStateMachine, invariant, precondition, 
 
 import zelmar
 import zelmar.io.xml.dom as dom
-from conftest import poke
+from conftest import AWKWARD, poke
 
 XML = "<r xmlns:p='urn:p' a='1'><p:x b='2'>text<!--c--><?pi d?></p:x><![CDATA[cd]]><y/></r>"
-AWKWARD = [
-    None, True, 0, -1, 7, 2**53 + 1, 2**64, -(2**70), 10**400, math.nan, math.inf, -math.inf, 0.5,
-    "", "\0", "a\0b", "\ud800", "x:y", "<r/>", "urn:p", b"bytes", [], [None], (), {}, object(),
-    dom.Node, dom.ParseErrorSeverity.Error,
-]
+VALUES = AWKWARD + [7, "x:y", "<r/>", "urn:p", dom.Node, dom.ParseErrorSeverity.Error]
 EXPECTED = (TypeError, OverflowError, ValueError, AttributeError, zelmar.Error)
 
 
@@ -49,7 +44,7 @@ def test_awkward_values_on_every_record_fail_cleanly(scratch, data):
         del held[2]  # the document goes: its nodes keep it
     target = data.draw(st.sampled_from(held))
     name = data.draw(st.sampled_from(sorted(n for n in dir(target) if not n.startswith("_")) + ["noSuchRecord"]))
-    arguments = data.draw(st.lists(st.sampled_from(AWKWARD + held), max_size=5))
+    arguments = data.draw(st.lists(st.sampled_from(VALUES + held), max_size=5))
     here = os.getcwd()
     os.chdir(scratch)
     try:

@@ -4,14 +4,13 @@ interpreter exit with objects alive."""
 
 import gc
 import os
-import subprocess
-import sys
 import textwrap
 import weakref
 
 import pytest
 
 import zelmar
+from conftest import run_python
 
 
 def test_one_wrapper_is_one_python_object_while_announced(t, canvas):
@@ -102,8 +101,7 @@ def test_python_subclasses_of_concrete_classes_keep_their_class(t):
 )
 def test_interpreter_exit_with_objects_alive(script):
     here = os.path.dirname(__file__)
-    prelude = f"import sys; sys.path.insert(0, {here!r})\nimport conftest; t = conftest.load_test_package()"
-    command = [sys.executable, "-c", prelude + textwrap.dedent(script)]
-    result = subprocess.run(command, capture_output=True, text=True, timeout=60)
-    assert (result.returncode, result.stdout.strip()) == (0, "alive"), result.stderr
-    assert "Error" not in result.stderr and "Fatal" not in result.stderr, result.stderr
+    prelude = f"import sys; sys.path.insert(0, {here!r})\nimport conftest; t = conftest.load_test_package()\n"
+    code, output, errors = run_python(prelude + textwrap.dedent(script))
+    assert (code, output.strip()) == (0, "alive"), errors
+    assert "Error" not in errors and "Fatal" not in errors, errors

@@ -1,21 +1,15 @@
 """No Python input crashes the process: random calls with awkward values on
 every method and property."""
 
-import math
-
 from hypothesis import HealthCheck, given, settings, strategies as st
 
 import zelmar
-from conftest import load_test_package, poke
+from conftest import AWKWARD, load_test_package, poke
 from test_errors import Painter
 
 t = load_test_package()
 
-AWKWARD = [
-    None, True, 0, -1, 2**31, 2**64, -(2**70), 10**400, math.nan, math.inf, -math.inf, 0.5,
-    "", "\0", "a\0b", "\ud800", "\U0001F600", b"bytes", [], [None], (), {}, object(), zelmar.uint32(3),
-    t.Color.Blue, t.Circle, len,
-]
+VALUES = AWKWARD + [t.Color.Blue, t.Circle]
 EXPECTED = (TypeError, OverflowError, ValueError, AttributeError, NotImplementedError, zelmar.Error)
 
 
@@ -35,6 +29,6 @@ def test_random_calls_with_awkward_values_fail_cleanly(data):
     objects = instances()
     target = data.draw(st.sampled_from(objects))
     name = data.draw(st.sampled_from(public_names(target)))
-    pool = st.sampled_from(AWKWARD + objects)
+    pool = st.sampled_from(VALUES + objects)
     arguments = data.draw(st.lists(pool, max_size=3))
     poke(target, name, arguments, EXPECTED)
