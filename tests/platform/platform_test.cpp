@@ -1,22 +1,14 @@
-// The platform layer: UTF-16 text, the message catalogue, exceptions, the
-// file system and the binding registry.
+// The platform layer: UTF-16 text, the message catalogue and exceptions.
 #include <basis/except/Exception.hpp>
-#include <basis/filesystem/filesystem.hpp>
 #include <basis/i18n/MessageCatalog.hpp>
 #include <basis/text/utf.hpp>
 #include <ZELMAR/string/MissingNotSupported.hpp>
 
-#include "support/TempDir.hpp"
-
 #include <gtest/gtest.h>
-
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <memory>
 
 using namespace basis;
-using testing_support::u;
 
 TEST(Utf, RoundTripsEveryPlaneKeepsLoneSurrogatesAndReplacesEachBadByte) {
   const std::u16string sample = u"a\u00e9\u20ac\U0001F600z";  // 1, 2, 3 and 4 bytes in UTF-8
@@ -67,25 +59,3 @@ TEST(Exception, CarriesItsIdentifierAndTextAndItsCopiesShareTheThrowSite) {
     EXPECT_EQ(dynamic_cast<const except::IMsgIDException&>(thrown).GetID(), e.GetID());
   }
 }
-
-TEST(Filesystem, PathsStatusAndAccess) {
-  EXPECT_EQ(filesystem::make_native_form(u"//a///b/", false), u"/a/b/");
-  EXPECT_EQ(filesystem::make_native_form(u"/", true), u"/");
-  const struct { const char16_t* path; const char16_t* parent; } cases[] = {
-      {u"/out.xml", u"/"}, {u"out.xml", u""}, {u"a/b/", u"a/b"}};
-  for (const auto& c : cases) EXPECT_EQ(filesystem::extract_parent_path(c.path), c.parent);
-
-  // Status and access tell files from directories, and what may be done.
-  const testing_support::TempDir dir;
-  const std::string file = dir.write("f\xC3\xA9.xml", "<a/>");  // a non-ASCII name
-  EXPECT_EQ(filesystem::status(u(file)) & filesystem::file_type_mask, filesystem::regular_file);
-  EXPECT_EQ(filesystem::status(u(dir.dir())) & filesystem::file_type_mask, filesystem::directory_file);
-  EXPECT_EQ(filesystem::status(u(dir.path("missing"))), 0u);
-  // A NUL cuts nothing short: the name with it is not the name before it.
-  EXPECT_FALSE(filesystem::exists(u(file) + std::u16string(1, u'\0') + u"x"));
-  ASSERT_EQ(chmod(file.c_str(), 0444), 0);
-  EXPECT_TRUE(filesystem::access(u(file), filesystem::access_read));
-  if (geteuid() == 0) GTEST_SKIP() << "root may write everything";
-  EXPECT_FALSE(filesystem::access(u(file), filesystem::access_read | filesystem::access_write));
-}
-

@@ -1,8 +1,7 @@
 // The core: number conversions, the error types and their catalogue texts,
-// and the host way of raising them.
+// and the pool of wrapper blocks.
 #include <paxorel/xml.hpp>
 #include <paxorel/xml/core/Conversions.hpp>
-#include <paxorel/xml/core/raiseXmlError.hpp>
 
 #include <basis/i18n/MessageCatalog.hpp>
 
@@ -82,30 +81,8 @@ TEST(Errors, EveryErrorIsKeyedByItsOwnNameAndHasACatalogueTextUsingEachArgument)
   }
 }
 
-TEST(Errors, ArgumentsKeepTheirOrderAndKind) {
-  const xml_error::cdataInsertDataExcessiveOffsetError error(u"text", "12.000000");
-  EXPECT_EQ(error.args, (std::vector<basis::i18n::MsgArg>{u"text", std::string("12.000000")}));
-  // A Xerces text is copied, and its absence is the empty string.
-  EXPECT_EQ(std::get<ustring>(xml_error::fileWriteError(u"p", u"denied").args[1]), u"denied");
+TEST(Errors, AnAbsentXercesTextIsTheEmptyString) {
   EXPECT_EQ(std::get<ustring>(xml_error::malformedURL(u"p", nullptr).args[1]), u"");
-}
-
-namespace {
-struct Raiser {  // in host mode
-  bool getNativeErrorMode() const { return false; }
-};
-}  // namespace
-
-TEST(Errors, TheHostWayKeepsIdentifierAndArgumentsAndFinishesTheText) {
-  try {
-    raiseXmlError(Raiser{}, xml_error::nodeRemoveChildNotFoundError(u"b", u"b"));
-  } catch (const basis::except::Exception<xml_error::nodeRemoveChildNotFoundError>& e) {
-    EXPECT_EQ(e.GetID(), "paxorel:xml_error:nodeRemoveChildNotFoundError");
-    EXPECT_EQ(e.GetBaseMsgIDObj().args, (std::vector<basis::i18n::MsgArg>{u"b", u"b"}));
-    EXPECT_STREQ(e.what(), "Cannot remove child 'b': 'b' is not a child of this node.");
-    return;
-  }
-  FAIL();
 }
 
 // A wrapper's block is handed to the next wrapper of its size; meanwhile it

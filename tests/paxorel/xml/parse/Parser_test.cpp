@@ -77,6 +77,8 @@ TEST_F(ParseFileTest, ReadsPathsAndFileUrlsAsWrittenAndRefusesDirectoriesAndMiss
   EXPECT_XML_ERROR(parseFile(u("file://" + dir.dir())), "inputFileIsDirectoryError", u(dir.dir()));
   EXPECT_XML_ERROR(parseFile(u(dir.path("none.xml"))), "inputFileNonexistentError", u(dir.path("none.xml")));
   EXPECT_XML_ERROR(parseFile(u""), "inputFileNonexistentError", u"");
+  const ustring cut = u(good) + ustring(1, u'\0') + u"x";  // a zero unit ends nothing early
+  EXPECT_XML_ERROR(parseFile(cut), "inputFileNonexistentError", cut);
   // A URL is taken as written, wherever the text says "file:".
   dir.write("my doc.xml", "<a/>");  // no percent decoding
   EXPECT_XML_ERROR(parseFile(u("file://" + dir.path("my%20doc.xml"))), "inputFileNonexistentError",
